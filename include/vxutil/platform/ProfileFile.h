@@ -1,0 +1,37 @@
+// Profile ("INI") files with the observable behaviour of the Windows private profile functions:
+// on Windows these call GetPrivateProfileStringA, GetPrivateProfileIntA and
+// WritePrivateProfileStringA; on POSIX our own engine behaves the same, so a file written by a
+// client on one system reads the same on the other.
+//
+// `file` is resolved with ResolveSettingsFile: a bare name is looked for in the settings home.
+#pragma once
+
+#include <string>
+
+#include "vxutil/export.h"
+
+namespace vx {
+
+// As GetPrivateProfileStringA. With a null `section` the buffer receives every section name,
+// with a null `key` every key of the section, each terminated by a zero byte and the whole by a
+// second one. Otherwise the value (quotes removed) or, when absent, `def` without its trailing
+// blanks (null reads as ""). At most size - 1 bytes are returned; the result is the number of
+// bytes stored before the terminating zero.
+VXUTIL_API unsigned long ProfileGetString(const char* section, const char* key, const char* def,
+                                          char* buffer, unsigned long size, const char* file);
+
+// The same into a string, without a size limit.
+VXUTIL_API std::string ProfileGetString(const char* section, const char* key, const char* def,
+                                        const char* file);
+
+// As GetPrivateProfileIntA: the value's leading integer ("42A" gives 42, "B" gives 0, "-1"
+// gives 4294967295); `def` when the key is absent or empty.
+VXUTIL_API unsigned int ProfileGetInt(const char* section, const char* key, int def,
+                                      const char* file);
+
+// As WritePrivateProfileStringA: a null `value` deletes the key, a null `key` deletes the
+// section, "" writes "key=". A new section is appended at the end of the file. True when done.
+VXUTIL_API bool ProfileWriteString(const char* section, const char* key, const char* value,
+                                   const char* file);
+
+}  // namespace vx
