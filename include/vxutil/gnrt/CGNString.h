@@ -12,7 +12,7 @@
 #include "vxutil/export.h"
 
 class VXUTIL_API CGNString {
-public:
+  public:
     CGNString() = default;
     CGNString(const char* text);  // NOLINT: implicit on purpose, as the framework string is
     CGNString(const char* text, std::size_t length);
@@ -36,7 +36,7 @@ public:
 
     // Equality is case-sensitive and byte-wise.
     friend bool operator==(const CGNString& a, const CGNString& b) { return a.m_str == b.m_str; }
-    friend bool operator==(const CGNString& a, const char* b);
+    friend VXUTIL_API bool operator==(const CGNString& a, const char* b);
     int Compare(const char* text) const;
     int CompareNoCase(const char* text) const;  // ASCII letters folded
 
@@ -78,6 +78,6 @@ public:
     // \n, carriage return -> \r, tab -> \t; other bytes below 0x20 -> \xHH (two hex digits).
     CGNString& ExpandSpecials();
 
-private:
+  private:
     std::string m_str;
 };

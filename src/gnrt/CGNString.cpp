@@ -1,0 +1,233 @@
+#include "vxutil/gnrt/CGNString.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+#include "vxutil/gnrt/MultiByte.h"
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+char FoldUpper(char c) {
+    return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char FoldLower(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+std::string_view OrEmpty(const char* text) {
+    return text != nullptr ? text : "";
+}
+
+}  // namespace
+
+CGNString::CGNString(const char* text) : m_str(OrEmpty(text)) {}
+
+CGNString::CGNString(const char* text, std::size_t length)
+    : m_str(text != nullptr ? std::string(text, length) : std::string()) {}
+
+CGNString::CGNString(std::string_view text) : m_str(text) {}
+
+CGNString::CGNString(std::string text) : m_str(std::move(text)) {}
+
+CGNString& CGNString::operator=(const char* text) {
+    m_str = OrEmpty(text);
+    return *this;
+}
+
+CGNString& CGNString::operator+=(const CGNString& other) {
+    m_str += other.m_str;
+    return *this;
+}
+
+CGNString& CGNString::operator+=(const char* text) {
+    m_str += OrEmpty(text);
+    return *this;
+}
+
+CGNString& CGNString::operator+=(char c) {
+    m_str += c;
+    return *this;
+}
+
+CGNString operator+(const CGNString& a, const CGNString& b) {
+    return CGNString(a.m_str + b.m_str);
+}
+
+bool operator==(const CGNString& a, const char* b) {
+    return a.view() == OrEmpty(b);
+}
+
+int CGNString::Compare(const char* text) const {
+    return view().compare(OrEmpty(text));
+}
+
+int CGNString::CompareNoCase(const char* text) const {
+    const std::string_view other = OrEmpty(text);
+    const std::size_t common = std::min(m_str.size(), other.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        const auto a = static_cast<unsigned char>(FoldLower(m_str[i]));
+        const auto b = static_cast<unsigned char>(FoldLower(other[i]));
+        if (a != b) {
+            return a < b ? -1 : 1;
+        }
+    }
+    if (m_str.size() == other.size()) {
+        return 0;
+    }
+    return m_str.size() < other.size() ? -1 : 1;
+}
+
+CGNString CGNString::Left(std::size_t count) const {
+    return Mid(0, count);
+}
+
+CGNString CGNString::Mid(std::size_t start, std::size_t count) const {
+    if (start >= m_str.size()) {
+        return {};
+    }
+    return CGNString(m_str.substr(start, count));
+}
+
+CGNString CGNString::Right(std::size_t count) const {
+    count = std::min(count, m_str.size());
+    return Mid(m_str.size() - count);
+}
+
+int CGNString::Find(char c, std::size_t start) const {
+    if (c == '\0') {
+        return -1;
+    }
+    const char text[2] = {c, '\0'};
+    return Find(text, start);
+}
+
+int CGNString::Find(const char* text, std::size_t start) const {
+    const std::string_view needle = OrEmpty(text);
+    if (needle.empty()) {
+        return start <= m_str.size() ? static_cast<int>(start) : -1;
+    }
+    // Walk whole characters so that a match never begins inside a multi-byte character.
+    const char* data = m_str.data();
+    const std::size_t size = m_str.size();
+    for (std::size_t pos = 0; pos < size; pos += vx::mb::CharLength(data + pos, size - pos)) {
+        if (pos >= start && view().substr(pos).starts_with(needle)) {
+            return static_cast<int>(pos);
+        }
+    }
+    return -1;
+}
+
+int CGNString::ReverseFind(char c) const {
+    int found = -1;
+    for (int pos = Find(c); pos >= 0; pos = Find(c, static_cast<std::size_t>(pos) + 1)) {
+        found = pos;
+    }
+    return found;
+}
+
+CGNString& CGNString::TrimLeft() {
+    m_str.erase(0, std::min(m_str.find_first_not_of(kBlanks), m_str.size()));
+    return *this;
+}
+
+CGNString& CGNString::TrimRight() {
+    const std::size_t last = m_str.find_last_not_of(kBlanks);
+    m_str.erase(last == std::string::npos ? 0 : last + 1);
+    return *this;
+}
+
+CGNString& CGNString::Trim() {
+    return TrimRight().TrimLeft();
+}
+
+CGNString& CGNString::MakeUpper() {
+    std::transform(m_str.begin(), m_str.end(), m_str.begin(), FoldUpper);
+    return *this;
+}
+
+CGNString& CGNString::MakeLower() {
+    std::transform(m_str.begin(), m_str.end(), m_str.begin(), FoldLower);
+    return *this;
+}
+
+void CGNString::Format(const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    FormatV(format, args);
+    va_end(args);
+}
+
+void CGNString::FormatV(const char* format, va_list args) {
+    m_str.clear();
+    if (format == nullptr) {
+        return;
+    }
+    va_list measure;
+    va_copy(measure, args);
+    const int length = std::vsnprintf(nullptr, 0, format, measure);
+    va_end(measure);
+    if (length <= 0) {
+        return;
+    }
+    m_str.resize(static_cast<std::size_t>(length) + 1);
+    std::vsnprintf(m_str.data(), m_str.size(), format, args);
+    m_str.resize(static_cast<std::size_t>(length));
+}
+
+std::size_t CGNString::CharCount() const {
+    return vx::mb::CharCount(m_str.data(), m_str.size());
+}
+
+CGNString& CGNString::ClientFormat() {
+#ifdef _WIN32
+    std::string converted;
+    converted.reserve(m_str.size());
+    for (std::size_t i = 0; i < m_str.size(); ++i) {
+        if (m_str[i] == '\n' && (i == 0 || m_str[i - 1] != '\r')) {
+            converted += '\r';
+        }
+        converted += m_str[i];
+    }
+    m_str = std::move(converted);
+#endif
+    return *this;
+}
+
+CGNString& CGNString::ExpandSpecials() {
+    static constexpr char kHex[] = "0123456789ABCDEF";
+    std::string expanded;
+    expanded.reserve(m_str.size());
+    for (const char c : m_str) {
+        switch (c) {
+            case '\\':
+                expanded += "\\\\";
+                break;
+            case '"':
+                expanded += "\\\"";
+                break;
+            case '\n':
+                expanded += "\\n";
+                break;
+            case '\r':
+                expanded += "\\r";
+                break;
+            case '\t':
+                expanded += "\\t";
+                break;
+            default:
+                if (static_cast<unsigned char>(c) < 0x20) {
+                    expanded += "\\x";
+                    expanded += kHex[(c >> 4) & 0x0F];
+                    expanded += kHex[c & 0x0F];
+                } else {
+                    expanded += c;
+                }
+        }
+    }
+    m_str = std::move(expanded);
+    return *this;
+}
