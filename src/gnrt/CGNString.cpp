@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 #include "vxutil/gnrt/MultiByte.h"
@@ -20,6 +19,19 @@ char FoldLower(char c) {
 
 std::string_view OrEmpty(const char* text) {
     return text != nullptr ? text : "";
+}
+
+// Byte index of the first character start for which `accept` is true, or -1. Walking whole
+// characters keeps a search from matching inside a multi-byte character.
+template <typename Accept>
+int FirstCharStart(std::string_view text, Accept accept) {
+    for (std::size_t pos = 0; pos < text.size();
+         pos += vx::mb::CharLength(text.data() + pos, text.size() - pos)) {
+        if (accept(pos)) {
+            return static_cast<int>(pos);
+        }
+    }
+    return -1;
 }
 
 }  // namespace
@@ -110,22 +122,19 @@ int CGNString::Find(const char* text, std::size_t start) const {
     if (needle.empty()) {
         return start <= m_str.size() ? static_cast<int>(start) : -1;
     }
-    // Walk whole characters so that a match never begins inside a multi-byte character.
-    const char* data = m_str.data();
-    const std::size_t size = m_str.size();
-    for (std::size_t pos = 0; pos < size; pos += vx::mb::CharLength(data + pos, size - pos)) {
-        if (pos >= start && view().substr(pos).starts_with(needle)) {
-            return static_cast<int>(pos);
-        }
-    }
-    return -1;
+    return FirstCharStart(m_str, [&](std::size_t pos) {
+        return pos >= start && view().substr(pos).starts_with(needle);
+    });
 }
 
 int CGNString::ReverseFind(char c) const {
     int found = -1;
-    for (int pos = Find(c); pos >= 0; pos = Find(c, static_cast<std::size_t>(pos) + 1)) {
-        found = pos;
-    }
+    FirstCharStart(m_str, [&](std::size_t pos) {
+        if (m_str[pos] == c) {
+            found = static_cast<int>(pos);
+        }
+        return false;
+    });
     return found;
 }
 
@@ -198,34 +207,23 @@ CGNString& CGNString::ClientFormat() {
 }
 
 CGNString& CGNString::ExpandSpecials() {
+    // The escapes of a quoted literal, position for position.
+    static constexpr std::string_view kEscaped = "\\\"\n\r\t";
+    static constexpr std::string_view kLetters = "\\\"nrt";
     static constexpr char kHex[] = "0123456789ABCDEF";
     std::string expanded;
     expanded.reserve(m_str.size());
     for (const char c : m_str) {
-        switch (c) {
-            case '\\':
-                expanded += "\\\\";
-                break;
-            case '"':
-                expanded += "\\\"";
-                break;
-            case '\n':
-                expanded += "\\n";
-                break;
-            case '\r':
-                expanded += "\\r";
-                break;
-            case '\t':
-                expanded += "\\t";
-                break;
-            default:
-                if (static_cast<unsigned char>(c) < 0x20) {
-                    expanded += "\\x";
-                    expanded += kHex[(c >> 4) & 0x0F];
-                    expanded += kHex[c & 0x0F];
-                } else {
-                    expanded += c;
-                }
+        const std::size_t escape = kEscaped.find(c);
+        if (escape != std::string_view::npos) {
+            expanded += '\\';
+            expanded += kLetters[escape];
+        } else if (static_cast<unsigned char>(c) < 0x20) {
+            expanded += "\\x";
+            expanded += kHex[(c >> 4) & 0x0F];
+            expanded += kHex[c & 0x0F];
+        } else {
+            expanded += c;
         }
     }
     m_str = std::move(expanded);

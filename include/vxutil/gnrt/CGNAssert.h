@@ -8,7 +8,7 @@
 #include "vxutil/export.h"
 
 class VXUTIL_API CGNAssert {
-public:
+  public:
     using Handler = void (*)(const char* file, int line, const char* expression);
 
     // Records one failed assertion.

@@ -7,8 +7,10 @@
 #include "vxutil/export.h"
 
 class VXUTIL_API CGNList {
-public:
-    // `initialSize` slots are reserved at once; the list then grows by `growStep` slots at a time.
+  public:
+    // `initialSize` slots are reserved at once; the list then grows by at least `growStep` slots
+    // at a time (by half its size when that is more, so that long lists append in amortized
+    // constant time).
     CGNList(int initialSize, int growStep);
     CGNList(const CGNList&) = delete;
     CGNList& operator=(const CGNList&) = delete;
@@ -33,7 +35,7 @@ public:
     void* GetItem(int index) const;
     bool SetItem(int index, void* item);
 
-private:
+  private:
     bool Reserve(int needed);
 
     void** m_items = nullptr;

@@ -7,8 +7,8 @@
 #include "vxutil/gnrt/CGNString.h"
 
 class VXUTIL_API CGNStringList {
-public:
-    // The grow step is the number of slots reserved at a time; it affects only allocation.
+  public:
+    // The grow step is the least number of slots reserved at a time; it affects only allocation.
     explicit CGNStringList(int growStep = 10);
 
     int GetCount() const { return static_cast<int>(m_items.size()); }
@@ -35,7 +35,7 @@ public:
     auto begin() const { return m_items.begin(); }
     auto end() const { return m_items.end(); }
 
-private:
+  private:
     std::vector<CGNString> m_items;
     int m_growStep;
 };

@@ -1,0 +1,39 @@
+#include "gnrt/StringTable.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vx {
+namespace {
+
+struct Entry {
+    unsigned id;
+    const char* text;
+};
+
+// Sorted by id. "%1" and "%2" are insertion points filled by the message code.
+constexpr Entry kTable[] = {
+    {kStrFolderMissingCreate, "%1\n\nThis folder does not exist - create?"},
+    {kStrFolderCreateFailed,
+     "%1\n\nError creating folder.  Please verify folder location and security permissions and "
+     "try again."},
+    {kStrFolderCopyFailed,
+     "Error in copying folder '%1' to '%2'.  Unable to copy at least one file.  Please verify "
+     "that the paths and privileges are set properly.  Also verify that duplicate files do not "
+     "already exist in the target directory, and that the disk is not full."},
+};
+
+static_assert(std::is_sorted(std::begin(kTable), std::end(kTable),
+                             [](const Entry& a, const Entry& b) { return a.id < b.id; }),
+              "the string table must stay sorted by id for the binary search");
+
+}  // namespace
+
+const char* BuiltInString(unsigned id) {
+    const Entry* entry = std::lower_bound(
+        std::begin(kTable), std::end(kTable), id,
+        [](const Entry& candidate, unsigned wanted) { return candidate.id < wanted; });
+    return (entry != std::end(kTable) && entry->id == id) ? entry->text : nullptr;
+}
+
+}  // namespace vx
