@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Builds and runs every test: the native build, the sanitizer build, the fuzz targets, the
+# Windows x64 build under Wine and the 32-bit Windows compile. Installs what it needs.
+#   scripts/test.sh [stage...]   stages: linux asan fuzz win64 win32 (default: all, in order)
+# Exits non-zero when anything failed; the last line counts passed and failed checks (ctest
+# tests, fuzz runs, the 32-bit compile, and a stage that broke before it could test as one).
+set -u -o pipefail
+
+here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
+source "$here/lib/common.sh"
+source "$here/lib/wine.sh"
+source "$here/stages/linux.sh"
+source "$here/stages/asan.sh"
+source "$here/stages/fuzz.sh"
+source "$here/stages/windows.sh"
+
+all_stages=(linux asan fuzz win64 win32)
+stages=("$@")
+[ ${#stages[@]} -gt 0 ] || stages=("${all_stages[@]}")
+
+packages=()
+for stage in "${stages[@]}"; do
+    case "$stage" in
+    linux) packages+=("${VX_LINUX_PACKAGES[@]}") ;;
+    asan) packages+=("${VX_ASAN_PACKAGES[@]}") ;;
+    fuzz) packages+=("${VX_FUZZ_PACKAGES[@]}") ;;
+    win64) packages+=("${VX_WIN64_PACKAGES[@]}") ;;
+    win32) packages+=("${VX_WIN32_PACKAGES[@]}") ;;
+    *)
+        echo "unknown stage '$stage'; the stages are: ${all_stages[*]}" >&2
+        exit 2
+        ;;
+    esac
+done
+
+trap vx_wine_stop EXIT
+trap 'exit 130' INT TERM
+
+vx_banner "setup"
+mapfile -t packages < <(printf '%s\n' "${packages[@]}" | sort -u)
+if ! vx_need_packages "${packages[@]}"; then
+    echo "could not install the packages the tests need: ${packages[*]}" >&2
+    exit 1
+fi
+vx_note "$(cmake --version | head -n 1), $(g++ --version | head -n 1)"
+
+status=0
+for stage in "${stages[@]}"; do
+    vx_stage "$stage" "stage_$stage" || status=1
+done
+
+vx_banner "summary"
+printf '  %s\n' "${VX_SUMMARY[@]}"
+vx_note "total $SECONDS s"
+if [ $status -eq 0 ]; then vx_note "all stages passed"; else vx_note "SOME STAGES FAILED"; fi
+echo "$VX_PASSED passed, $VX_FAILED failed"
+exit $status
