@@ -1,5 +1,6 @@
 #include "vxutil/gnrt/CGNList.h"
 
+#include <cstdint>
 #include <vector>
 
 #include "support/TempHome.h"
@@ -8,23 +9,23 @@ namespace {
 
 using CGNListTest = vx::test::HomeTest;
 
-void* Item(long value) {
+void* Item(std::intptr_t value) {
     return reinterpret_cast<void*>(value);
 }
 
-std::vector<long> Items(CGNList& list) {
-    std::vector<long> items;
+std::vector<std::intptr_t> Items(CGNList& list) {
+    std::vector<std::intptr_t> items;
     void** slots = list.GetItemListPtr();
     for (int i = 0; i < list.GetCount(); ++i) {
-        items.push_back(reinterpret_cast<long>(slots[i]));
+        items.push_back(reinterpret_cast<std::intptr_t>(slots[i]));
     }
     return items;
 }
 
 TEST_F(CGNListTest, GrowsBeyondItsInitialSizeKeepingOrder) {
     CGNList list(2, 3);
-    std::vector<long> expected;
-    for (long i = 1; i <= 100; ++i) {
+    std::vector<std::intptr_t> expected;
+    for (std::intptr_t i = 1; i <= 100; ++i) {
         ASSERT_TRUE(list.AddItem(Item(i)));
         expected.push_back(i);
     }
@@ -40,7 +41,7 @@ TEST_F(CGNListTest, EditsRespectBounds) {
     EXPECT_TRUE(list.InsertItem(2, Item(3)));
     EXPECT_FALSE(list.InsertItem(5, Item(9)));
     EXPECT_FALSE(list.InsertItem(-1, Item(9)));
-    EXPECT_EQ(Items(list), (std::vector<long>{1, 2, 3, 4}));
+    EXPECT_EQ(Items(list), (std::vector<std::intptr_t>{1, 2, 3, 4}));
 
     EXPECT_TRUE(list.SwapItems(0, 3));
     EXPECT_FALSE(list.SwapItems(0, 4));
@@ -48,14 +49,14 @@ TEST_F(CGNListTest, EditsRespectBounds) {
     EXPECT_FALSE(list.DeleteItem(3));
     EXPECT_TRUE(list.SetItem(0, Item(7)));
     EXPECT_FALSE(list.SetItem(3, Item(7)));
-    EXPECT_EQ(Items(list), (std::vector<long>{7, 3, 1}));
+    EXPECT_EQ(Items(list), (std::vector<std::intptr_t>{7, 3, 1}));
     EXPECT_EQ(list.GetItem(3), nullptr);
     EXPECT_EQ(list.GetItem(-1), nullptr);
 }
 
 // A list that owns its elements, the way the foundation lists use the base.
 class OwningList : public CGNList {
-  public:
+public:
     OwningList() : CGNList(10, 10) {}
     ~OwningList() override { Free(); }
     void Free() override {
