@@ -110,11 +110,7 @@ CGNString CGNString::Right(std::size_t count) const {
 }
 
 int CGNString::Find(char c, std::size_t start) const {
-    if (c == '\0') {
-        return -1;
-    }
-    const char text[2] = {c, '\0'};
-    return Find(text, start);
+    return FirstCharStart(m_str, [&](std::size_t pos) { return pos >= start && m_str[pos] == c; });
 }
 
 int CGNString::Find(const char* text, std::size_t start) const {
