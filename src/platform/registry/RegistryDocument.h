@@ -1,0 +1,52 @@
+// A registry file in regedit's text form, held as its lines: the values it defines can be
+// looked up and edited, and everything else in it (other keys, comments, value kinds this
+// library does not read) is written back as it stood.
+//
+// Lookups follow what importing the file with regedit would leave behind: lines are applied in
+// order, "[-path]" removes a key with everything below it and "name"=- removes a value. Key
+// paths are full paths as they stand between the brackets ("HKEY_CURRENT_USER\SOFTWARE\...").
+// Key paths and names given to Set must not hold line breaks.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/registry/RegistryEncoding.h"
+#include "platform/registry/RegistryLine.h"
+#include "platform/registry/RegistryValue.h"
+
+namespace vx::registry {
+
+class RegistryDocument {
+public:
+    // Never fails: a truncated or binary file gives the lines that make sense.
+    static RegistryDocument FromBytes(std::string_view bytes);
+    // CR LF line ends, in the encoding the file was read in.
+    std::string ToBytes() const;
+
+    // The value in force, or null when absent.
+    const RegistryValue* Find(std::string_view key, std::string_view name) const;
+    // Sets a value, keeping the spelling of an existing key and name; false when the value was
+    // already so and nothing changed.
+    bool Set(std::string_view key, std::string_view name, const RegistryValue& value);
+    // Removes a value; false when it was absent.
+    bool Remove(std::string_view key, std::string_view name);
+
+    const std::vector<RegistryLine>& lines() const { return m_lines; }
+
+private:
+    struct Placement;
+    Placement Locate(const std::string& foldedKey, const std::string& foldedName) const;
+    void EnsureHeader();
+    void Reindex();
+
+    std::vector<RegistryLine> m_lines;
+    TextEncoding m_encoding = TextEncoding::Plain;
+    // Folded key path and folded name -> value in force.
+    std::map<std::pair<std::string, std::string>, RegistryValue> m_values;
+};
+
+}  // namespace vx::registry
