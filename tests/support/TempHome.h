@@ -1,8 +1,10 @@
 // A fresh, empty settings home for one test: VX_CONFIG_HOME points at a new temporary folder
-// for the fixture's lifetime, and the folder is removed afterwards.
+// for the fixture's lifetime, and the folder is removed afterwards. On Windows HKEY_CURRENT_USER
+// is redirected to a fresh registry key as well, removed afterwards too.
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -24,6 +26,10 @@ private:
     std::filesystem::path m_path;
     std::string m_previous;
     bool m_hadPrevious = false;
+#ifdef _WIN32
+    class RegistryOverride;
+    std::unique_ptr<RegistryOverride> m_registry;
+#endif
 };
 
 // A test fixture that gives every test its own settings home.

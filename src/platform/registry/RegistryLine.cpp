@@ -202,7 +202,10 @@ bool EndsWithContinuation(std::string_view raw) {
 }
 
 RegistryLine MakeKeyLine(std::string_view key) {
-    return ParseLine("[" + std::string(key) + "]");
+    std::string text = "[";
+    text += key;
+    text += ']';
+    return ParseLine(std::move(text));
 }
 
 RegistryLine MakeValueLine(std::string_view name, const RegistryValue& value) {

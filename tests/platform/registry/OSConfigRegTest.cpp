@@ -23,6 +23,11 @@ using RegistryPrimitives = vx::test::HomeTest;
 int SetString(const char* name, const char* value) {
     return OSSetSystemConfigReg(CGNString(value), kUsers, name, kRoot);
 }
+// A value name of its own for writer `writer`'s `index`-th value.
+std::string WriterValueName(int writer, int index) {
+    return std::to_string(writer).append("_").append(std::to_string(index));
+}
+
 int SetNumber(const char* name, int value) {
     return OSSetSystemConfigReg(value, kUsers, name, kRoot);
 }
@@ -140,8 +145,7 @@ TEST_F(RegistryPrimitives, ConcurrentWritersKeepEachOthersValues) {
     for (int t = 0; t < 2; ++t) {
         writers.emplace_back([t] {
             for (int i = 0; i < kPerThread; ++i) {
-                const std::string name = "T" + std::to_string(t) + "_" + std::to_string(i);
-                SetNumber(name.c_str(), i);
+                SetNumber(WriterValueName(t, i).c_str(), i);
             }
         });
     }
@@ -149,7 +153,7 @@ TEST_F(RegistryPrimitives, ConcurrentWritersKeepEachOthersValues) {
         writer.join();
     for (int t = 0; t < 2; ++t) {
         for (int i = 0; i < kPerThread; ++i) {
-            const std::string name = "T" + std::to_string(t) + "_" + std::to_string(i);
+            const std::string name = WriterValueName(t, i);
             EXPECT_EQ(GetNumber(name.c_str()), (NumberRead{1, i})) << name;
         }
     }
