@@ -1,0 +1,5 @@
+#include "vxutil/foundation/CVXNameType.h"
+
+CVXListItemStruct* CVXNameType::Duplicate(const CVXListItemStruct* source) const {
+    return DuplicateAs<CVXNameType>(source);
+}
