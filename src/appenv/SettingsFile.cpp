@@ -1,0 +1,32 @@
+#include "appenv/SettingsFile.h"
+
+#include <string>
+
+#include "vxutil/appenv/CAppEnv.h"
+#include "vxutil/gnrt/FilePath.h"
+#include "vxutil/gnrt/MultiByte.h"
+#include "vxutil/platform/ProfileFile.h"
+
+namespace vx::appenv {
+
+CGNString SettingsFilePath(const CGNString& folder) {
+    CGNString path = folder;
+    const bool endsWithSeparator =
+        !folder.IsEmpty() &&
+        folder.ReverseFind(kPathSeparator) == static_cast<int>(folder.GetLength()) - 1;
+    if (!endsWithSeparator) path += kPathSeparator;
+    path += kSettingsFileName;
+    return path;
+}
+
+std::size_t ReadUserValue(const CGNString& file, const char* key, char* out) {
+    // Read whole, then cut: the profile reader may split a multi-byte character at the limit.
+    const std::string value = ProfileGetString("User", key, "", file.c_str());
+    return mb::BoundedCopy(out, kNameBufferSize, value.c_str());
+}
+
+bool WriteUserValue(const CGNString& file, const char* key, const char* value) {
+    return ProfileWriteString("User", key, value, file.c_str());
+}
+
+}  // namespace vx::appenv
