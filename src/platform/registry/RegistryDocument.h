@@ -22,6 +22,9 @@ namespace vx::registry {
 
 class RegistryDocument {
 public:
+    // Folded key path and folded name -> the value in force.
+    using ValueMap = std::map<std::pair<std::string, std::string>, RegistryValue>;
+
     // Never fails: a truncated or binary file gives the lines that make sense.
     static RegistryDocument FromBytes(std::string_view bytes);
     // CR LF line ends, in the encoding the file was read in.
@@ -36,6 +39,7 @@ public:
     bool Remove(std::string_view key, std::string_view name);
 
     const std::vector<RegistryLine>& lines() const { return m_lines; }
+    const ValueMap& values() const { return m_values; }
 
 private:
     struct Placement;
@@ -45,8 +49,7 @@ private:
 
     std::vector<RegistryLine> m_lines;
     TextEncoding m_encoding = TextEncoding::Plain;
-    // Folded key path and folded name -> value in force.
-    std::map<std::pair<std::string, std::string>, RegistryValue> m_values;
+    ValueMap m_values;
 };
 
 }  // namespace vx::registry
