@@ -100,7 +100,9 @@ vx_ctest() {
     ctest --test-dir "$dir" --output-on-failure -j "$VX_JOBS" --timeout "$timeout" \
         >"$log" 2>&1 </dev/null
     local status=$?
-    grep -Ev '^ *Start +[0-9]+: |^ *[0-9]+/[0-9]+ Test +#[0-9]+: .* +Passed +[0-9.]+ sec$' "$log"
+    local routine='^Internal ctest changing|^ *Start +[0-9]+: '
+    local passed='^ *[0-9]+/[0-9]+ Test +#[0-9]+: .* +Passed +[0-9.]+ sec$'
+    grep -Ev "$routine|$passed" "$log"
     local line total failed
     line="$(grep -E '^[0-9]+% tests passed, [0-9]+ tests? failed out of [0-9]+' "$log" | tail -n 1)"
     if [ -n "$line" ]; then

@@ -42,7 +42,7 @@ stage_fuzz() {
     vx_configure "$VX_FUZZ_DIR" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
         -DVXUTIL_SANITIZE=address,undefined -DVXUTIL_BUILD_FUZZ=ON \
         -DVXUTIL_BUILD_TESTS=OFF -DVXUTIL_BUILD_TOOLS=OFF &&
-        vx_build "$VX_FUZZ_DIR" || return 1
+        vx_build "$VX_FUZZ_DIR" fuzz/all || return 1
     local programs status=0 program
     mapfile -t programs < <(vx_executables_in "$VX_FUZZ_DIR/fuzz")
     if [ ${#programs[@]} -eq 0 ]; then
