@@ -111,4 +111,28 @@ TEST_F(VxenvTest, PreferencesAreSetInTheApplicationProfile) {
     EXPECT_EQ(Run("paths macro /h").out, "/h/vxcmds\n");
 }
 
+TEST_F(VxenvTest, ServersAreWrittenAsFullRecordsAndListed) {
+    const std::string ann = Folder("ann");
+    CAppEnv::AddUser("ann", ann.c_str());
+    CAppEnv::SetLastUserLoggedIn("ann");
+    EXPECT_EQ(Run("servers list").status, 1);  // no server file yet
+    EXPECT_EQ(Run("servers set ann main:vx,nt:2020,390600,2021 backup:off,vx spare:nt").status, 0);
+    EXPECT_EQ(Run("servers list").out, "main\n");
+    EXPECT_EQ(Run("servers list ann --notifier").out, "main\nspare\n");
+    EXPECT_EQ(Run("--json servers list --all").out, "[\"main\", \"backup\", \"spare\"]\n");
+
+    CAppEnv::flag disabled = 0, workflow = 0, notifier = 0;
+    CGNString port, rpc, notifierPort;
+    EXPECT_EQ(CAppEnv::GetServerAttributes(ann.c_str(), "main", disabled, workflow, notifier, port,
+                                           rpc, notifierPort),
+              1);
+    EXPECT_EQ(port.str() + "/" + rpc.str() + "/" + notifierPort.str(), "2020/390600/2021");
+    EXPECT_NE(Run("servers attrs ann backup").out.find("disabled: yes\n"), std::string::npos);
+
+    EXPECT_EQ(Run("servers attrs ann nowhere").status, 1);
+    EXPECT_EQ(Run("servers set ann main:vx:99999").status, 2);
+    EXPECT_EQ(Run("servers set ann main:xx").status, 2);
+    EXPECT_EQ(Run("servers set zed main").status, 1);
+}
+
 }  // namespace
