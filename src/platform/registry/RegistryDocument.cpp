@@ -79,6 +79,9 @@ RegistryDocument::Placement RegistryDocument::Locate(const std::string& foldedKe
                 inKey = FoldKey(line.key) == foldedKey;
                 if (inKey) placement.lastSection = i;
                 break;
+            case LineType::BadKey:
+                inKey = false;
+                break;
             case LineType::KeyDeletion:
                 inKey = false;
                 if (IsSameOrBelow(foldedKey, FoldKey(line.key))) placement = {};
@@ -109,7 +112,9 @@ bool RegistryDocument::Set(std::string_view key, std::string_view name,
         std::size_t insertAt = *placement.lastSection + 1;
         for (std::size_t i = insertAt; i < m_lines.size(); ++i) {
             const RegistryLine& line = m_lines[i];
-            if (line.type == LineType::Key || line.type == LineType::KeyDeletion) break;
+            if (line.type == LineType::Key || line.type == LineType::KeyDeletion ||
+                line.type == LineType::BadKey)
+                break;
             const bool isValue =
                 line.type == LineType::Value || line.type == LineType::ValueDeletion;
             if (isValue && !StartsContinuedValue(line.raw)) insertAt = i + 1;
@@ -151,6 +156,9 @@ void RegistryDocument::Reindex() {
         switch (line.type) {
             case LineType::Key:
                 section = FoldKey(line.key);
+                break;
+            case LineType::BadKey:
+                section.reset();
                 break;
             case LineType::KeyDeletion: {
                 section.reset();

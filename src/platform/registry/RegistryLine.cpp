@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/registry/RegistryEncoding.h"
+#include "platform/registry/RegistryPath.h"
 
 namespace vx::registry {
 namespace {
@@ -21,14 +22,8 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, last - first + 1);
 }
 
-bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
-    if (text.size() < prefix.size()) return false;
-    for (std::size_t i = 0; i < prefix.size(); ++i) {
-        char c = text[i];
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-        if (c != prefix[i]) return false;
-    }
-    return true;
+bool StartsWithNoCase(std::string_view text, std::string_view lowerPrefix) {
+    return FoldCase(text.substr(0, lowerPrefix.size())) == lowerPrefix;
 }
 
 int HexDigit(char c) {
@@ -116,8 +111,7 @@ std::optional<std::string> ParseHexBytes(std::string_view data) {
 std::optional<std::string> ParseStringHex(std::string_view data) {
     auto bytes = ParseHexBytes(data);
     if (!bytes || bytes->size() % 2 != 0) return std::nullopt;
-    while (bytes->size() >= 2 && bytes->ends_with(std::string_view("\0\0", 2)))
-        bytes->resize(bytes->size() - 2);
+    if (bytes->ends_with(std::string_view("\0\0", 2))) bytes->resize(bytes->size() - 2);
     return Utf16LeBytesToClient(*bytes);
 }
 
@@ -173,10 +167,15 @@ RegistryLine ParseLine(std::string raw) {
         line.type = LineType::Header;
     } else if (text.starts_with(';')) {
         line.type = LineType::Comment;
-    } else if (text.starts_with('[') && text.ends_with(']') && text.size() > 2) {
-        const bool deletion = text[1] == '-';
-        line.key = std::string(text.substr(deletion ? 2 : 1, text.size() - (deletion ? 3 : 2)));
-        if (!line.key.empty()) line.type = deletion ? LineType::KeyDeletion : LineType::Key;
+    } else if (text.starts_with('[')) {
+        const bool deletion = text.starts_with("[-");
+        const std::size_t start = deletion ? 2 : 1;
+        if (text.ends_with(']') && text.size() > start + 1) {
+            line.key = std::string(text.substr(start, text.size() - start - 1));
+            line.type = deletion ? LineType::KeyDeletion : LineType::Key;
+        } else {
+            line.type = LineType::BadKey;
+        }
     } else if (SplitValueLine(text, line.name, data)) {
         if (data == "-") {
             line.type = LineType::ValueDeletion;

@@ -20,6 +20,7 @@ enum class LineType {
     Comment,        // ; ...
     Key,            // [path]
     KeyDeletion,    // [-path]: the key and everything below it
+    BadKey,         // [... that names no key: the values below it belong to none
     Value,          // "name"=data or @=data; data that is not understood gives ValueKind::Other
     ValueDeletion,  // "name"=-
     Unknown,

@@ -230,8 +230,9 @@ TEST(RegistryDocument, MalformedLinesAreKeptButNotRead) {
     auto document = RegistryDocument::FromBytes(text);
     for (const char* name : {"Cut", "N", "M", "T"})
         EXPECT_EQ(document.Find("HKEY_CURRENT_USER\\A", name)->kind, ValueKind::Other) << name;
-    // The broken key line does not open a key: the value still belongs to A.
-    EXPECT_EQ(Lookup(document, "HKEY_CURRENT_USER\\A", "Ok"), StringValue("yes"));
+    // The values below a broken key line belong to no key, rather than to the one before.
+    EXPECT_EQ(document.Find("HKEY_CURRENT_USER\\A", "Ok"), nullptr);
+    EXPECT_EQ(document.Find("HKEY_CURRENT_USER\\B", "Ok"), nullptr);
     EXPECT_EQ(document.ToBytes(), text);
 }
 
