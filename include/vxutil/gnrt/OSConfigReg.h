@@ -1,7 +1,13 @@
 // The system configuration store: the user's registry on Windows (HKEY_CURRENT_USER), a
 // registry file in the settings home on POSIX. Values are addressed by a root ("SOFTWARE"), a
 // key path below it with components separated by backslashes ("Korvel\VXUser\Users") and a
-// value name; names are compared without regard to case.
+// value name; names are compared without regard to case, and a new name is stored as first
+// written. An empty value name addresses the key's default value. Key and value names holding
+// control characters (line breaks among them) are refused on every platform, since the registry
+// file cannot carry them.
+//
+// Only string and 32-bit number values are read; a value of another kind (binary, expandable
+// text ...) reads as unreadable, and is replaced by a write.
 //
 // Results: greater than 0 when done; 0 when the value is absent, unreadable or not written.
 #pragma once

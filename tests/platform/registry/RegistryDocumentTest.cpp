@@ -97,18 +97,6 @@ TEST(RegistryDocument, AddsValuesWhereRegeditWouldHaveThem) {
     EXPECT_EQ(document.ToBytes(), expected);
 }
 
-TEST(RegistryDocument, StartsAnEmptyFileAsRegeditDoes) {
-    auto document = RegistryDocument::FromBytes("");
-    EXPECT_TRUE(document.Set(kUsers, "USER1", StringValue("alice")));
-    EXPECT_TRUE(document.Set(kUsers, "LastUserLoggedIn", DwordValue(0xFFFFFFFF)));
-    EXPECT_FALSE(document.Set(kUsers, "lastuserloggedin", DwordValue(0xFFFFFFFF)));
-    EXPECT_EQ(document.ToBytes(),
-              "Windows Registry Editor Version 5.00\r\n\r\n"
-              "[HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\Users]\r\n"
-              "\"USER1\"=\"alice\"\r\n"
-              "\"LastUserLoggedIn\"=dword:ffffffff\r\n\r\n");
-}
-
 TEST(RegistryDocument, QuotedTextRoundTrips) {
     const std::string texts[] = {
         "",          "plain",        "C:\\path\\", "say \"hi\"",          "\\\"",
@@ -179,16 +167,6 @@ TEST(RegistryDocument, EditsAfterDeletionLinesTakeEffect) {
     EXPECT_TRUE(reread.Remove("HKEY_CURRENT_USER\\A", "V"));
     EXPECT_EQ(RegistryDocument::FromBytes(reread.ToBytes()).Find("HKEY_CURRENT_USER\\A", "V"),
               nullptr);
-}
-
-TEST(RegistryDocument, KeepsTheSpellingFirstUsed) {
-    auto document = RegistryDocument::FromBytes("");
-    document.Set("HKEY_CURRENT_USER\\Soft", "User1", StringValue("a"));
-    document.Set("HKEY_CURRENT_USER\\SOFT", "USER1", StringValue("b"));
-    document.Set("hkey_current_user\\soft", "other", StringValue("c"));
-    EXPECT_EQ(document.ToBytes(),
-              "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\Soft]\r\n"
-              "\"User1\"=\"b\"\r\n\"other\"=\"c\"\r\n\r\n");
 }
 
 TEST(RegistryDocument, ReadsOtherEncodingsAndKeepsThem) {
