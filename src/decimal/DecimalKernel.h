@@ -1,0 +1,262 @@
+// The arithmetic of decimal numbers with a 96-bit mantissa and 0 to 28 decimal places.
+//
+// A number is a magnitude below 2^95, a sign and a scale (value = magnitude / 10^scale). Every
+// operation first computes its exact result in a wider integer and then fits it back: it keeps
+// as many decimal places as the operation's natural scale allows (at most 28) and, when the
+// mantissa would not hold the result, gives up places one by one, rounding half away from zero.
+// The result is "inexact" when a dropped digit was not zero and "overflow" when not even the
+// integral part fits.
+//
+// The kernel is written once over its 128-bit type U: the compiler's unsigned __int128 where
+// there is one, Portable128 elsewhere. Both must give identical results.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "decimal/Portable128.h"
+#include "decimal/Wide256.h"
+
+namespace vx::decimal {
+
+#if defined(__SIZEOF_INT128__) && !defined(VXUTIL_DECIMAL_PORTABLE)
+__extension__ typedef unsigned __int128 Native128;
+#else
+using Native128 = Portable128;
+#endif
+
+inline constexpr int kMaxScale = 28;
+
+enum class Outcome { kExact, kInexact, kOverflow };
+
+template <class U>
+struct Number {
+    U magnitude = 0;
+    bool negative = false;
+    int scale = 0;
+};
+
+template <class U>
+class Kernel {
+public:
+    using Num = Number<U>;
+
+    // The largest magnitude: 2^95 - 1. (-2^95 is the mantissa's "bad value".)
+    static U MaxMagnitude() { return (U(1) << 95) - U(1); }
+
+    // The two's-complement mantissa words, most significant (signed) first.
+    static Num FromWords(std::int32_t high, std::uint32_t middle, std::uint32_t low, int scale) {
+        U pattern = (U(static_cast<std::uint32_t>(high)) << 64) | (U(middle) << 32) | U(low);
+        Num number;
+        number.scale = scale;
+        number.negative = high < 0;
+        number.magnitude = number.negative ? (U(1) << 96) - pattern : pattern;
+        return number;
+    }
+    static void ToWords(const Num& number, std::int32_t& high, std::uint32_t& middle,
+                        std::uint32_t& low) {
+        U pattern = number.negative ? (U(1) << 96) - number.magnitude : number.magnitude;
+        high = static_cast<std::int32_t>(
+            static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern >> 64) & 0xFFFFFFFFu));
+        middle = static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern >> 32));
+        low = static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern));
+    }
+
+    static Outcome Add(const Num& a, const Num& b, Num& result) {
+        int scale = std::max(a.scale, b.scale);
+        Wide256<U> left = Aligned(a, scale);
+        Wide256<U> right = Aligned(b, scale);
+        bool negative = a.negative;
+        if (a.negative == b.negative) {
+            left.Add(right);
+        } else if (left.CompareTo(right) >= 0) {
+            left.Subtract(right);
+        } else {
+            right.Subtract(left);
+            left = right;
+            negative = b.negative;
+        }
+        return Fit(left, negative, scale, kMaxScale, Dropped(), result);
+    }
+
+    static Outcome Subtract(const Num& a, const Num& b, Num& result) {
+        Num negated = b;
+        negated.negative = !b.negative;
+        return Add(a, negated, result);
+    }
+
+    static Outcome Multiply(const Num& a, const Num& b, Num& result) {
+        return Fit(Wide256<U>::Product(a.magnitude, b.magnitude), a.negative != b.negative,
+                   a.scale + b.scale, kMaxScale, Dropped(), result);
+    }
+
+    // The quotient keeps the places of a.scale - b.scale (none when negative) and takes more
+    // only while the division has a remainder. Division by zero is an overflow.
+    static Outcome Divide(const Num& a, const Num& b, Num& result) {
+        if (b.magnitude == U(0)) return Outcome::kOverflow;
+        const U divisor = b.magnitude;
+        U quotient = a.magnitude / divisor;
+        U remainder = a.magnitude - quotient * divisor;
+        int scale = a.scale - b.scale;
+        const int preferred = std::max(scale, 0);
+        // Long division, nine digits at a time while they fit (remainder * 10^9 stays below
+        // 2^128), then digit by digit.
+        int chunk = 9;
+        while (scale < kMaxScale && (scale < 0 || remainder != U(0))) {
+            int step = std::min(chunk, scale < 0 ? -scale : kMaxScale - scale);
+            if (NextDigits(divisor, step, quotient, remainder)) {
+                scale += step;
+            } else if (step > 1) {
+                chunk = 1;
+            } else if (scale < 0) {
+                return Outcome::kOverflow;
+            } else {
+                break;
+            }
+        }
+        // A chunk may have run past the point where the division came out even.
+        while (remainder == U(0) && scale > preferred && quotient % U(10) == U(0)) {
+            quotient = quotient / U(10);
+            --scale;
+        }
+        Dropped dropped;
+        if (remainder != U(0)) {
+            U scaled = remainder * U(10);
+            U digit = scaled / divisor;
+            dropped.digit = static_cast<int>(static_cast<std::uint64_t>(digit));
+            dropped.sticky = scaled - digit * divisor != U(0);
+        }
+        return Fit(Wide256<U>(quotient), a.negative != b.negative, scale, kMaxScale, dropped,
+                   result);
+    }
+
+    // Cuts to at most `places` decimal places, rounding half away from zero.
+    static Outcome Round(const Num& a, int places, Num& result) {
+        if (a.scale <= places) {
+            result = a;
+            return Outcome::kExact;
+        }
+        return Fit(Wide256<U>(a.magnitude), a.negative, a.scale, std::max(places, 0), Dropped(),
+                   result);
+    }
+
+    static int Compare(const Num& a, const Num& b) {
+        bool aZero = a.magnitude == U(0), bZero = b.magnitude == U(0);
+        if (aZero && bZero) return 0;
+        bool aNegative = a.negative && !aZero, bNegative = b.negative && !bZero;
+        if (aNegative != bNegative) return aNegative ? -1 : 1;
+        int scale = std::max(a.scale, b.scale);
+        int order = Aligned(a, scale).CompareTo(Aligned(b, scale));
+        return aNegative ? -order : order;
+    }
+
+    // The number written with the digits `whole` '.' `fraction` (ASCII digits only).
+    static Outcome FromDigits(std::string_view whole, std::string_view fraction, bool negative,
+                              Num& result) {
+        whole.remove_prefix(std::min(whole.find_first_not_of('0'), whole.size()));
+        // 10^29 is above the largest magnitude: more integral digits can never fit.
+        if (whole.size() > 29) return Outcome::kOverflow;
+        Wide256<U> value;
+        for (char c : whole)
+            value.MultiplyAdd(10, static_cast<std::uint64_t>(c - '0'));
+        int scale = 0;
+        Dropped dropped;
+        for (char c : fraction) {
+            int digit = c - '0';
+            if (scale < kMaxScale) {
+                value.MultiplyAdd(10, static_cast<std::uint64_t>(digit));
+                ++scale;
+            } else if (dropped.digit < 0) {
+                dropped.digit = digit;
+            } else {
+                dropped.sticky = dropped.sticky || digit != 0;
+            }
+        }
+        return Fit(value, negative, scale, kMaxScale, dropped, result);
+    }
+
+private:
+    // What was cut off the right of a number: the first dropped digit decides the rounding
+    // (-1: none yet), the later ones only whether anything was lost.
+    struct Dropped {
+        int digit = -1;
+        bool sticky = false;
+    };
+
+    // 10^exponent for 0 <= exponent <= 19.
+    static std::uint64_t Pow10(int exponent) {
+        static constexpr auto kPowers = [] {
+            std::array<std::uint64_t, 20> powers{};
+            powers[0] = 1;
+            for (std::size_t i = 1; i < powers.size(); ++i)
+                powers[i] = powers[i - 1] * 10;
+            return powers;
+        }();
+        return kPowers[static_cast<std::size_t>(exponent)];
+    }
+
+    static Wide256<U> Aligned(const Num& number, int scale) {
+        Wide256<U> value(number.magnitude);
+        for (int shift = scale - number.scale; shift > 0; shift -= 19)
+            value.MultiplyAdd(Pow10(std::min(shift, 19)), 0);
+        return value;
+    }
+
+    // Appends `count` quotient digits when they keep the quotient within the mantissa.
+    static bool NextDigits(U divisor, int count, U& quotient, U& remainder) {
+        U power = U(Pow10(count));
+        U scaled = remainder * power;
+        U digits = scaled / divisor;
+        U extended = quotient * power + digits;
+        if (extended > MaxMagnitude()) return false;
+        quotient = extended;
+        remainder = scaled - digits * divisor;
+        return true;
+    }
+
+    // Removes `count` digits from the right of `value`, noting them in `dropped`.
+    static void DropDigits(Wide256<U>& value, int count, Dropped& dropped) {
+        bool sticky = dropped.sticky || dropped.digit > 0;
+        for (int rest = count - 1; rest > 0; rest -= 19)
+            sticky = value.DivideSmall(Pow10(std::min(rest, 19))) != 0 || sticky;
+        dropped.digit = static_cast<int>(value.DivideSmall(10));
+        dropped.sticky = sticky;
+    }
+
+    // A lower bound of the digits to drop before `value` fits: it has at least
+    // (bits - 96) * log10(2) digits more than the largest magnitude.
+    static int ExcessDigits(const Wide256<U>& value) {
+        int bits = value.BitLength();
+        return bits <= 96 ? 0 : ((bits - 96) * 1233) >> 12;
+    }
+
+    static Outcome Fit(Wide256<U> value, bool negative, int scale, int maxScale, Dropped dropped,
+                       Num& result) {
+        int skip = std::max(scale - maxScale, ExcessDigits(value));
+        if (skip > scale) return Outcome::kOverflow;
+        if (skip > 0) {
+            DropDigits(value, skip, dropped);
+            scale -= skip;
+        }
+        for (;;) {
+            while (!value.AtMost(MaxMagnitude())) {
+                if (scale == 0) return Outcome::kOverflow;
+                DropDigits(value, 1, dropped);
+                --scale;
+            }
+            if (dropped.digit < 5) break;
+            // Rounded up; what was dropped now only tells that the result is inexact. Only
+            // the largest magnitude plus one fails to fit, and loses one more digit.
+            value.Add(Wide256<U>(U(1)));
+            dropped = Dropped{0, true};
+        }
+        result.magnitude = value.Low();
+        result.negative = negative && result.magnitude != U(0);
+        result.scale = scale;
+        return dropped.digit > 0 || dropped.sticky ? Outcome::kInexact : Outcome::kExact;
+    }
+};
+
+}  // namespace vx::decimal
