@@ -21,6 +21,15 @@ constexpr Entry kTable[] = {
      "Error in copying folder '%1' to '%2'.  Unable to copy at least one file.  Please verify "
      "that the paths and privileges are set properly.  Also verify that duplicate files do not "
      "already exist in the target directory, and that the disk is not full."},
+    {kStrLargestFreeBlock, "Largest Free Memory Block"},
+    {kStrSwapSpaceSize, "Swap Space Size"},
+    {kStrUserHeap, "User Heap"},
+    {kStrWinsockVersion, "Winsock Version"},
+    {kStrMaxSockets, "Max Sockets"},
+    {kStrMaxDatagram, "Max Datagram"},
+    {kStrSocketDescription, "Description"},
+    {kStrSocketStatus, "Status"},
+    {kStrResourceVersion, "Resource DLL Version"},
 };
 
 static_assert(std::is_sorted(std::begin(kTable), std::end(kTable),

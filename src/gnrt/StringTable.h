@@ -8,6 +8,16 @@ enum StringId : unsigned {
     kStrFolderMissingCreate = 3055,
     kStrFolderCreateFailed = 3056,
     kStrFolderCopyFailed = 3057,
+    // Labels of the about box's system information.
+    kStrLargestFreeBlock = 3401,
+    kStrSwapSpaceSize = 3402,
+    kStrUserHeap = 3403,
+    kStrWinsockVersion = 3404,
+    kStrMaxSockets = 3405,
+    kStrMaxDatagram = 3406,
+    kStrSocketDescription = 3407,
+    kStrSocketStatus = 3408,
+    kStrResourceVersion = 3409,
 };
 
 // The built-in text of string `id`, or null when the table has none.

@@ -107,10 +107,8 @@ void RTrace::Clear() {
 }
 
 namespace {
-// The module-wide trace lives as long as the library is loaded. The first entry after load
-// clears the previous run, so every run of a client tool starts a fresh log.
-RTrace g_defaultModuleTrace(1, kTraceAllLevels, "Debug", "Trace", 1);
-std::atomic<RTrace*> g_moduleTrace{&g_defaultModuleTrace};
+// Module start-up creates the module-wide trace and withdraws it at unload.
+std::atomic<RTrace*> g_moduleTrace{nullptr};
 }  // namespace
 
 RTrace* RTrace::Module() {

@@ -1,0 +1,12 @@
+#include "vxutil/runtime/MessageBackend.h"
+
+#include "vxutil/runtime/LocalMessageQueue.h"
+
+namespace vx {
+
+// Out of line, so the interfaces' type information lives in the library.
+MessageQueue::~MessageQueue() = default;
+TimerSource::~TimerSource() = default;
+LocalMessageTarget::~LocalMessageTarget() = default;
+
+}  // namespace vx

@@ -1,0 +1,135 @@
+#include "runtime/module/Module.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "module/ScopedEnvironment.h"
+#include "support/TempHome.h"
+#include "vxutil/gnrt/OSLoadString.h"
+#include "vxutil/runtime/RMessagePump.h"
+#include "vxutil/runtime/RMessageStation.h"
+#include "vxutil/runtime/RModule.h"
+#include "vxutil/runtime/RTrace.h"
+#include "vxutil/runtime/WindowMessages.h"
+
+namespace {
+
+const char kEnglishQuestion[] = "%1\n\nThis folder does not exist - create?";
+
+std::string Text(unsigned id) {
+    CGNString text;
+    OSLoadString(id, text);
+    return text.str();
+}
+
+// The test suites link the library statically, so no load hook has run: each test loads the
+// module itself, with localized resources looked for only where the test says.
+class ModuleTest : public vx::test::HomeTest {
+protected:
+    ModuleTest() { environment.Set("VX_LOCALEDIR", home.path().string()); }
+    ~ModuleTest() override { vx::UnloadModule(); }
+
+    vx::test::ScopedEnvironment environment;
+    int moduleAnchor = 0;  // stands in for the module's handle
+};
+
+TEST_F(ModuleTest, LoadCreatesTheModuleObjectsAndUnloadWithdrawsThem) {
+    ASSERT_FALSE(vx::IsModuleLoaded());
+    EXPECT_EQ(RGetResourceHandle(), nullptr);
+
+    EXPECT_EQ(vx::LoadModule("libvxutil.so.0.1.0", &moduleAnchor, {"de"}), 1);
+    RTrace* trace = RTrace::Module();
+    ASSERT_NE(trace, nullptr);
+    EXPECT_EQ(trace->GetSection(), "Debug");
+    EXPECT_EQ(trace->GetTimestampEntry(), "Timestamp1");
+    EXPECT_EQ(trace->GetLevel(), kTraceAllLevels);
+    ASSERT_NE(RMessageStation::Module(), nullptr);
+    EXPECT_EQ(RMessageStation::Module()->GetFrequency(), 250u);
+    // Without a localized library the module's own handle serves, with the built-in texts.
+    EXPECT_EQ(RGetResourceHandle(), &moduleAnchor);
+    EXPECT_EQ(vx::ModuleLocaleResources(), nullptr);
+    EXPECT_EQ(Text(3055), kEnglishQuestion);
+
+    // A second load changes nothing.
+    int otherAnchor = 0;
+    EXPECT_EQ(vx::LoadModule("other.dll", &otherAnchor, {}), 1);
+    EXPECT_EQ(RTrace::Module(), trace);
+    EXPECT_EQ(RGetResourceHandle(), &moduleAnchor);
+
+    vx::UnloadModule();
+    EXPECT_FALSE(vx::IsModuleLoaded());
+    EXPECT_EQ(RTrace::Module(), nullptr);
+    EXPECT_EQ(RMessageStation::Module(), nullptr);
+    EXPECT_EQ(RGetResourceHandle(), nullptr);
+    vx::UnloadModule();  // unloading an unloaded module does nothing
+}
+
+TEST_F(ModuleTest, UnloadStopsThePumpsStillStarted) {
+    vx::LoadModule("libvxutil.so.0.1.0", &moduleAnchor, {});
+    RMessagePump pump(vx::kWmUser, -1, 1);
+    EXPECT_EQ(pump.GetID(), 1u);
+    vx::UnloadModule();
+    EXPECT_EQ(pump.GetID(), 0u);
+    EXPECT_EQ(pump.Start(), 0);  // no station without the module
+}
+
+// The German texts the build ships, found where an installed library would find them.
+TEST_F(ModuleTest, AttachedLanguageTranslatesTheStringTable) {
+#ifndef _WIN32
+    if (std::string(VXUTIL_TEST_LOCALEDIR).empty()) GTEST_SKIP() << "built without msgfmt";
+    environment.Set("VX_LOCALEDIR", VXUTIL_TEST_LOCALEDIR);
+#endif
+    ASSERT_EQ(vx::LoadModule(VXUTIL_TEST_MODULE_PATH, &moduleAnchor, {"fr_FR", "fr", "de"}), 1);
+    const vx::LocaleResources* resources = vx::ModuleLocaleResources();
+    ASSERT_NE(resources, nullptr);
+    EXPECT_EQ(resources->Language(), "de");
+    EXPECT_NE(RGetResourceHandle(), &moduleAnchor);
+    EXPECT_EQ(RGetResourceHandle(), resources->Handle());
+    int major = -1, minor = -1;
+    resources->Version(major, minor);
+    EXPECT_EQ(major, 0);
+    EXPECT_EQ(minor, 1);
+
+    // Compared on their ASCII parts: Windows hands the texts out in the ANSI code page.
+    EXPECT_EQ(Text(3055), "%1\n\nDieser Ordner existiert nicht - erstellen?");
+    EXPECT_NE(Text(3057).find("Fehler beim Kopieren des Ordners '%1' nach '%2'."),
+              std::string::npos);
+    EXPECT_EQ(Text(3408), "Status");
+    EXPECT_EQ(Text(3058), "");  // unknown everywhere
+
+    vx::UnloadModule();
+    EXPECT_EQ(Text(3055), kEnglishQuestion);
+}
+
+#ifndef _WIN32
+TEST(PreferredLanguagesTest, FollowTheEnvironmentAsGettextDoes) {
+    struct Case {
+        const char* language;
+        const char* all;
+        const char* messages;
+        const char* lang;
+        std::vector<std::string> expected;
+    } cases[] = {
+        {"", "", "", "", {}},
+        {"", "", "", "C.UTF-8", {}},
+        {"de:fr", "", "", "C", {}},  // LANGUAGE does not count for the "C" locale
+        {"", "", "", "de_DE.UTF-8", {"de_DE", "de"}},
+        {"fr_CA:de:fr", "", "", "en_US.UTF-8", {"fr_CA", "fr", "de"}},
+        {"", "pt_BR.UTF-8@latin", "it_IT", "en_US", {"pt_BR", "pt"}},
+        {"", "", "it_IT", "en_US", {"it_IT", "it"}},
+        {"::de_AT:", "", "", "en_US", {"de_AT", "de"}},
+    };
+    for (const Case& c : cases) {
+        vx::test::ScopedEnvironment environment;
+        environment.Set("LANGUAGE", c.language);
+        environment.Set("LC_ALL", c.all);
+        environment.Set("LC_MESSAGES", c.messages);
+        environment.Set("LANG", c.lang);
+        EXPECT_EQ(vx::PreferredLanguages(), c.expected) << c.language << "|" << c.lang;
+    }
+}
+#endif
+
+}  // namespace

@@ -1,0 +1,53 @@
+#include "vxutil/runtime/RUserPrompt.h"
+
+#include <gtest/gtest.h>
+
+#include "vxutil/runtime/MessageText.h"
+
+namespace {
+
+TEST(UserPromptTest, DefaultAnswerIsTheButtonTheStyleNames) {
+    struct Case {
+        unsigned style;
+        int answer;
+        std::size_t buttons;
+    } cases[] = {
+        {0x0, vx::kIdOk, 1},
+        {0x10, vx::kIdOk, 1},
+        {0x134, vx::kIdNo, 2},  // Yes/No, exclamation, second button
+        {0x4, vx::kIdYes, 2},
+        {0x1, vx::kIdOk, 2},
+        {0x101, vx::kIdCancel, 2},
+        {0x301, vx::kIdOk, 2},  // names a fourth button the style has not: the first
+        {0x203, vx::kIdCancel, 3},
+        {0x102, vx::kIdRetry, 3},
+        {0x5, vx::kIdRetry, 2},
+        {0x206, vx::kIdContinue, 3},
+        {0xF, vx::kIdOk, 1},  // unknown buttons: OK
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(RUserPrompt::DefaultAnswer(c.style), c.answer) << std::hex << c.style;
+        EXPECT_EQ(RUserPrompt::Buttons(c.style).size(), c.buttons) << std::hex << c.style;
+    }
+}
+
+TEST(MessageTextTest, InsertsFillTheirNumberedPoints) {
+    struct Case {
+        const char* pattern;
+        const char* expected;
+    } cases[] = {
+        {"copy '%1' to '%2'", "copy 'one' to 'two'"},
+        {"%2%1%2", "twoonetwo"},
+        {"%3 is missing", " is missing"},
+        {"100% sure, %0 and %a stay", "100% sure, %0 and %a stay"},
+        {"%%1", "%one"},
+        {"ends in %", "ends in %"},
+        {"", ""},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(vx::FillInserts(c.pattern, {"one", "two"}), c.expected) << c.pattern;
+    EXPECT_EQ(vx::LoadMessageText(3055, {"C:\\x"}),
+              "C:\\x\n\nThis folder does not exist - create?");
+}
+
+}  // namespace
