@@ -1,16 +1,27 @@
 #include "foundation/HexText.h"
 
+#include <array>
+
 namespace vx::hex {
 namespace {
 
 constexpr char kDigits[] = "0123456789abcdef";
 
-// The value of a hexadecimal digit, or -1.
+// The value of every byte read as a hexadecimal digit of either case, or -1.
+constexpr auto kValues = [] {
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (int i = 0; i < 10; ++i)
+        values['0' + i] = static_cast<signed char>(i);
+    for (int i = 0; i < 6; ++i) {
+        values['a' + i] = static_cast<signed char>(10 + i);
+        values['A' + i] = static_cast<signed char>(10 + i);
+    }
+    return values;
+}();
+
 int DigitValue(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
+    return kValues[static_cast<unsigned char>(c)];
 }
 
 }  // namespace
