@@ -19,8 +19,13 @@ struct Answer {
 Answer Look(const char* section, const char* key, const char* def, const char* file) {
     const auto document = ProfileCache::Instance().Get(ResolveSettingsFile(file ? file : ""));
     if (!section) return {JoinProfileNames(document->SectionNames()), true};
-    if (!key) return {JoinProfileNames(document->KeyNames(section)), true};
-    if (auto value = document->Find(section, key)) return {std::move(*value), false};
+    if (!key) {
+        // A section without keys, or none at all, gives the default as Windows does.
+        const auto names = document->KeyNames(section);
+        if (!names.empty()) return {JoinProfileNames(names), true};
+    } else if (auto value = document->Find(section, key)) {
+        return {std::move(*value), false};
+    }
     return {std::string(ProfileDefault(def)), false};
 }
 

@@ -4,6 +4,17 @@
 #include <cstring>
 
 namespace vx {
+namespace {
+
+// The value of a digit in any base up to 36; 36 for anything else.
+unsigned int DigitValue(char c) {
+    if (c >= '0' && c <= '9') return static_cast<unsigned int>(c - '0');
+    if (c >= 'a' && c <= 'z') return static_cast<unsigned int>(c - 'a' + 10);
+    if (c >= 'A' && c <= 'Z') return static_cast<unsigned int>(c - 'A' + 10);
+    return 36;
+}
+
+}  // namespace
 
 std::string JoinProfileNames(const std::vector<std::string>& names) {
     std::string joined;
@@ -53,9 +64,16 @@ unsigned int ParseProfileInt(std::string_view text) {
         ++at;
     bool negative = false;
     if (at < text.size() && (text[at] == '+' || text[at] == '-')) negative = text[at++] == '-';
+    // The prefixes are lower case only, as the Windows number reader knows them.
+    const char prefix = at + 1 < text.size() && text[at] == '0' ? text[at + 1] : '\0';
+    const unsigned int base = prefix == 'x' ? 16 : prefix == 'o' ? 8 : prefix == 'b' ? 2 : 10;
+    if (base != 10) at += 2;
     unsigned int value = 0;  // unsigned arithmetic wraps modulo 2^32, as the Windows reader does
-    for (; at < text.size() && text[at] >= '0' && text[at] <= '9'; ++at)
-        value = value * 10u + static_cast<unsigned int>(text[at] - '0');
+    for (; at < text.size(); ++at) {
+        const unsigned int digit = DigitValue(text[at]);
+        if (digit >= base) break;
+        value = value * base + digit;
+    }
     return negative ? 0u - value : value;
 }
 

@@ -24,8 +24,9 @@ unsigned long CopyProfileList(std::string_view names, char* buffer, unsigned lon
 std::string_view ProfileDefault(const char* def);
 
 // The number at the start of `text` as GetPrivateProfileIntA reads it: leading blanks, an
-// optional sign and decimal digits, computed modulo 2^32 ("42A" gives 42, "B" gives 0, "-1"
-// gives 4294967295, "4294967297" gives 1).
+// optional sign, an optional lower-case base prefix ("0x" hexadecimal, "0o" octal, "0b" binary) and
+// digits, computed modulo 2^32 ("42A" gives 42, "B" gives 0, "-1" gives 4294967295,
+// "4294967297" gives 1, "0x10" gives 16).
 unsigned int ParseProfileInt(std::string_view text);
 
 }  // namespace vx
