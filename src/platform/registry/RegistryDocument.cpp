@@ -28,11 +28,11 @@ std::vector<std::string_view> PhysicalLines(std::string_view text) {
 
 }  // namespace
 
-// Where the lines that decide a value stand: lines before `barrier` are overridden by a later
-// deletion of the key or of a key above it.
+// Where the lines that decide a value stand. Only lines after the last deletion of the key (or
+// of a key above it) count: whatever stands before it is overridden.
 struct RegistryDocument::Placement {
-    std::vector<std::size_t> valueLines;     // after the barrier, setting or deleting the value
-    std::optional<std::size_t> lastSection;  // the last "[key]" after the barrier
+    std::vector<std::size_t> valueLines;     // lines setting or deleting the value
+    std::optional<std::size_t> lastSection;  // the last "[key]" line
 };
 
 RegistryDocument RegistryDocument::FromBytes(std::string_view bytes) {
