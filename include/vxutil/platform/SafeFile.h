@@ -1,9 +1,10 @@
 // Crash-safe, concurrency-safe replacement of small text files.
 //
-// A writer takes an exclusive advisory lock on the file, reads its current content, applies one
-// change, writes the result to a temporary file in the same folder, flushes it and renames it
-// over the old file. A writer killed at any instant therefore leaves the old or the new file,
-// never a torn one, and two processes writing at once never lose each other's changes.
+// A writer takes an exclusive advisory lock on the file (on Windows, which cannot rename over an
+// open file, on a companion file "<file>.lock"), reads its current content, applies one
+// change, writes the result to a temporary file "<file>.tmp" in the same folder, flushes it
+// and renames it over the old file. A writer killed at any instant therefore leaves the old or the
+// new file, never a torn one, and two processes writing at once never lose each other's changes.
 #pragma once
 
 #include <cstdint>

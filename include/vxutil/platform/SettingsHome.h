@@ -1,7 +1,9 @@
 // The folder that holds the client's settings files on POSIX: $VX_CONFIG_HOME when set and not
-// empty, else $XDG_CONFIG_HOME/korvel, else $HOME/.config/korvel. It is created on first write.
-// On Windows the stores live in the registry and the Windows profile, and this folder is only
-// used for the application profiles of tools run with an explicit home.
+// empty, else $XDG_CONFIG_HOME/korvel (when that is an absolute path), else
+// $HOME/.config/korvel. It is created, for its owner only, on first write.
+// On Windows the stores live in the registry and the Windows profile; there the folder is
+// $VX_CONFIG_HOME when set (tools and tests run with an explicit home), else the Windows
+// folder, where the system itself looks for profile files named without a folder.
 #pragma once
 
 #include <string>
