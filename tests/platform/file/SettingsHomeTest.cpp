@@ -98,11 +98,5 @@ TEST_F(SettingsHomeTest, EnsureCreatesMissingFoldersForTheOwnerOnly) {
 #endif
 }
 
-TEST_F(SettingsHomeTest, EnsureFailsWhereNoFolderCanBe) {
-    test::WriteBytes(home.file("plain"), "not a folder");
-    ScopedEnv vx("VX_CONFIG_HOME", home.file("plain"));
-    EXPECT_FALSE(EnsureSettingsHome());
-}
-
 }  // namespace
 }  // namespace vx

@@ -162,11 +162,6 @@ TEST_F(ProfileTest, IntegersReadAsWindowsReadsThem) {
     EXPECT_EQ(ProfileGetInt("absent", "ProfileInt", 70, path.c_str()), 70u);
 }
 
-TEST_F(ProfileTest, ByteOrderMarkIsSkipped) {
-    Put("\xEF\xBB\xBF[section1]\r\nname1=val1\r\n");
-    EXPECT_EQ(Get("section1", "name1"), "val1");
-}
-
 // Files that are not profiles at all still read without harm, as far as they make sense.
 TEST_F(ProfileTest, DamagedFilesReadAsFarAsTheyMakeSense) {
     const std::string hugeLine(1 << 20, 'z');

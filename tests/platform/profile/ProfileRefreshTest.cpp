@@ -51,12 +51,5 @@ TEST_F(ProfileTest, YoungFilesAreReadAfresh) {
 }
 #endif
 
-TEST_F(ProfileTest, OwnWritesAreSeenAtOnce) {
-    for (const char* value : {"1", "2", "3"}) {
-        ASSERT_TRUE(Set("A", "x", value));
-        EXPECT_EQ(Get("A", "x"), value);
-    }
-}
-
 }  // namespace
 }  // namespace vx
