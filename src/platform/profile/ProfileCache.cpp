@@ -45,7 +45,8 @@ std::shared_ptr<const ProfileDocument> ProfileCache::Get(const std::string& path
         m_entries.erase(path);
         return std::make_shared<const ProfileDocument>();
     }
-    auto document = std::make_shared<const ProfileDocument>(ProfileDocument::Parse(content));
+    auto document = std::make_shared<const ProfileDocument>(
+        ProfileDocument::Parse(std::string_view(content).substr(0, kMaxProfileBytes)));
     if (found == m_entries.end() && m_entries.size() >= kMaxEntries) EvictLeastRecentlyUsed();
     m_entries[path] = Entry{stamp, document, IsSettled(stamp), ++m_uses};
     return document;

@@ -17,6 +17,10 @@
 
 namespace vx {
 
+// A file larger than this is no profile: it is read only up to here and never rewritten, so
+// that a stray huge file costs bounded memory and loses nothing.
+constexpr std::size_t kMaxProfileBytes = std::size_t{4} << 20;
+
 class ProfileDocument {
 public:
     // Any bytes make a document; what does not parse is kept as lines without meaning.

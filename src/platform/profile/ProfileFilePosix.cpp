@@ -62,9 +62,12 @@ bool ProfileWriteString(const char* section, const char* key, const char* value,
     if (!section) return !key && !value;
     if (!ProfileDocument::CanStore(section, key ? key : "", value ? value : "")) return false;
     const std::string path = ResolveSettingsFile(file ? file : "");
+    bool tooLarge = false;
     const bool written = UpdateFile(
         path,
         [&](std::string& content) {
+            tooLarge = content.size() > kMaxProfileBytes;
+            if (tooLarge) return false;
             ProfileDocument document = ProfileDocument::Parse(content);
             if (!Apply(document, section, key, value)) return false;
             content = document.Serialize();
@@ -72,7 +75,7 @@ bool ProfileWriteString(const char* section, const char* key, const char* value,
         },
         FileAccess::OwnerOnly);
     ProfileCache::Instance().Forget(path);
-    return written;
+    return written && !tooLarge;
 }
 
 }  // namespace vx

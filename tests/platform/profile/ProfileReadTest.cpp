@@ -172,5 +172,17 @@ TEST_F(ProfileTest, DamagedFilesReadAsFarAsTheyMakeSense) {
     EXPECT_EQ(ProfileGetString("good", nullptr, "", path.c_str()), std::string("key\0", 4));
 }
 
+#ifndef _WIN32
+// A huge file is read as far as a profile can reach and never rewritten.
+TEST_F(ProfileTest, HugeFilesAreReadInPartAndLeftAlone) {
+    const std::string huge = "[A]\nx=1\n" + std::string(5 << 20, 'z') + "\n[B]\ny=2\n";
+    Put(huge);
+    EXPECT_EQ(Get("A", "x"), "1");
+    EXPECT_EQ(Get("B", "y"), "default");
+    EXPECT_FALSE(Set("A", "x", "2"));
+    EXPECT_EQ(Bytes(), huge);
+}
+#endif
+
 }  // namespace
 }  // namespace vx
