@@ -101,15 +101,13 @@ public:
         U remainder = a.magnitude - quotient * divisor;
         int scale = a.scale - b.scale;
         const int preferred = std::max(scale, 0);
-        // Long division, nine digits at a time while they fit (remainder * 10^9 stays below
-        // 2^128), then digit by digit.
-        int chunk = 9;
+        // Long division: as many digits at a time as surely fit (at most nine, so that
+        // remainder * 10^9 stays below 2^128), then one more while it happens to fit.
         while (scale < kMaxScale && (scale < 0 || remainder != U(0))) {
-            int step = std::min(chunk, scale < 0 ? -scale : kMaxScale - scale);
+            int step =
+                std::max(RoomFor(quotient, std::min(scale < 0 ? -scale : kMaxScale - scale, 9)), 1);
             if (NextDigits(divisor, step, quotient, remainder)) {
                 scale += step;
-            } else if (step > 1) {
-                chunk = 1;
             } else if (scale < 0) {
                 return Outcome::kOverflow;
             } else {
@@ -123,10 +121,10 @@ public:
         }
         Dropped dropped;
         if (remainder != U(0)) {
-            U scaled = remainder * U(10);
-            U digit = scaled / divisor;
+            U digit, rest;
+            ScaledDivision(divisor, remainder, 1, digit, rest);
             dropped.digit = static_cast<int>(static_cast<std::uint64_t>(digit));
-            dropped.sticky = scaled - digit * divisor != U(0);
+            dropped.sticky = rest != U(0);
         }
         return Fit(Wide256<U>(quotient), a.negative != b.negative, scale, kMaxScale, dropped,
                    result);
@@ -204,15 +202,46 @@ private:
         return value;
     }
 
+    // The most digits, up to `most`, that can follow `quotient` whatever they are: k digits
+    // fit while quotient < 2^95 / 10^k.
+    static int RoomFor(U quotient, int most) {
+        static const auto kLimits = [] {
+            std::array<U, 10> limits{};
+            for (int k = 0; k < 10; ++k)
+                limits[static_cast<std::size_t>(k)] = (U(1) << 95) / U(Pow10(k));
+            return limits;
+        }();
+        int room = 0;
+        while (room < most && quotient < kLimits[static_cast<std::size_t>(room) + 1])
+            ++room;
+        return room;
+    }
+
+    // digits, rest = remainder * 10^count divided by the divisor, for remainder < divisor and
+    // count <= 9. A divisor of 32 bits keeps the product within 64 bits, where dividing is
+    // much cheaper.
+    static void ScaledDivision(U divisor, U remainder, int count, U& digits, U& rest) {
+        const std::uint64_t power = Pow10(count);
+        if (divisor <= U(0xFFFFFFFFu)) {
+            const std::uint64_t small = static_cast<std::uint64_t>(divisor);
+            const std::uint64_t scaled = static_cast<std::uint64_t>(remainder) * power;
+            digits = U(scaled / small);
+            rest = U(scaled % small);
+            return;
+        }
+        const U scaled = remainder * U(power);
+        digits = scaled / divisor;
+        rest = scaled - digits * divisor;
+    }
+
     // Appends `count` quotient digits when they keep the quotient within the mantissa.
     static bool NextDigits(U divisor, int count, U& quotient, U& remainder) {
-        U power = U(Pow10(count));
-        U scaled = remainder * power;
-        U digits = scaled / divisor;
-        U extended = quotient * power + digits;
+        U digits, rest;
+        ScaledDivision(divisor, remainder, count, digits, rest);
+        U extended = quotient * U(Pow10(count)) + digits;
         if (extended > MaxMagnitude()) return false;
         quotient = extended;
-        remainder = scaled - digits * divisor;
+        remainder = rest;
         return true;
     }
 

@@ -27,30 +27,13 @@ TKDecimal FromNumber(const Number& number) {
     return TKDecimal(high, middle, low, number.scale);
 }
 
-// The catalogue messages of one operation.
-struct Faults {
-    const TKMessage& overflow;
-    const TKMessage& inexact;
-};
-
-constexpr Faults kAddFaults{tkdcml::kAddOver, tkdcml::kAddInexact};
-constexpr Faults kSubtractFaults{tkdcml::kSubOver, tkdcml::kSubInexact};
-constexpr Faults kMultiplyFaults{tkdcml::kMulOver, tkdcml::kMulInexact};
-constexpr Faults kDivideFaults{tkdcml::kDivOver, tkdcml::kDivInexact};
-constexpr Faults kPortableFaults{tkdcml::kFromPortOver, tkdcml::kFromPortInexact};
-constexpr Faults kRealFaults{tkdcml::kFromDblOver, tkdcml::kFromDblInexact};
-
-// `real` fills the "%g" of the conversions from double; the other texts ignore it.
-TKStatus Finish(Outcome outcome, const Number& number, const Faults& faults, double real,
-                TKDecimal& result) {
+TKStatus Store(Outcome outcome, const Number& number, TKDecimal& result) {
     switch (outcome) {
         case Outcome::kOverflow:
             result = TKDecimal::BadValue();
-            TKReportError(TKMakeMessage(faults.overflow, TKDecimal::kTypeName, real));
             return TKStatus::kOverflow;
         case Outcome::kInexact:
             result = FromNumber(number);
-            TKReportError(TKMakeMessage(faults.inexact, TKDecimal::kTypeName, real));
             return TKStatus::kInexact;
         case Outcome::kExact:
             break;
@@ -59,23 +42,57 @@ TKStatus Finish(Outcome outcome, const Number& number, const Faults& faults, dou
     return TKStatus::kExact;
 }
 
-TKStatus Apply(Outcome (*operation)(const Number&, const Number&, Number&), const TKDecimal& a,
-               const TKDecimal& b, const Faults& faults, TKDecimal& result) {
+// The catalogue messages of one operation. Their texts name nothing but the type, so each is
+// formatted once, not at every rounded result.
+class Faults {
+public:
+    Faults(const TKMessage& overflow, const TKMessage& inexact)
+        : m_overflow(overflow),
+          m_inexact(inexact),
+          m_strOverflow(TKFormat(overflow, TKDecimal::kTypeName)),
+          m_strInexact(TKFormat(inexact, TKDecimal::kTypeName)) {}
+
+    TKStatus Report(TKStatus status) const {
+        if (status == TKStatus::kOverflow) TKReportError(TKxmsg(m_overflow, m_strOverflow));
+        if (status == TKStatus::kInexact) TKReportError(TKxmsg(m_inexact, m_strInexact));
+        return status;
+    }
+
+private:
+    const TKMessage& m_overflow;
+    const TKMessage& m_inexact;
+    std::string m_strOverflow;
+    std::string m_strInexact;
+};
+
+enum class Operation { kAdd, kSubtract, kMultiply, kDivide, kFromPortable };
+
+const Faults& FaultsOf(Operation operation) {
+    static const Faults kFaults[] = {
+        {tkdcml::kAddOver, tkdcml::kAddInexact},           {tkdcml::kSubOver, tkdcml::kSubInexact},
+        {tkdcml::kMulOver, tkdcml::kMulInexact},           {tkdcml::kDivOver, tkdcml::kDivInexact},
+        {tkdcml::kFromPortOver, tkdcml::kFromPortInexact},
+    };
+    return kFaults[static_cast<int>(operation)];
+}
+
+TKStatus Apply(Outcome (*compute)(const Number&, const Number&, Number&), Operation operation,
+               const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
     if (a.IsBad() || b.IsBad()) {
         result = TKDecimal::BadValue();
         return TKStatus::kNotANumber;
     }
     Number number;
-    Outcome outcome = operation(ToNumber(a), ToNumber(b), number);
-    return Finish(outcome, number, faults, 0.0, result);
+    return FaultsOf(operation).Report(
+        Store(compute(ToNumber(a), ToNumber(b), number), number, result));
 }
 
 bool AllDigits(const std::string& text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-TKStatus FromDigits(const TKDecimalPortable& portable, const Faults& faults, double real,
-                    TKDecimal& result) {
+// The portable decimal's digits as a multi-word decimal; not reported.
+TKStatus FromDigits(const TKDecimalPortable& portable, TKDecimal& result) {
     if (portable.GetState() != TKDecimalPortable::kNormal || !AllDigits(portable.GetWhole()) ||
         !AllDigits(portable.GetFraction())) {
         result = TKDecimal::BadValue();
@@ -84,7 +101,7 @@ TKStatus FromDigits(const TKDecimalPortable& portable, const Faults& faults, dou
     Number number;
     Outcome outcome = Kernel::FromDigits(portable.GetWhole(), portable.GetFraction(),
                                          portable.IsNegative(), number);
-    return Finish(outcome, number, faults, real, result);
+    return Store(outcome, number, result);
 }
 
 // One step of the decimal shift right: divides the non-negative 96-bit magnitude in `words`
@@ -144,7 +161,7 @@ bool TKDecimal::IsBad() const {
 }
 
 TKStatus TKDecimal::FromPortable(const TKDecimalPortable& portable, TKDecimal& result) {
-    return FromDigits(portable, kPortableFaults, 0.0, result);
+    return FaultsOf(Operation::kFromPortable).Report(FromDigits(portable, result));
 }
 
 TKStatus TKDecimal::FromText(std::string_view text, TKDecimal& result) {
@@ -152,12 +169,18 @@ TKStatus TKDecimal::FromText(std::string_view text, TKDecimal& result) {
 }
 
 TKStatus TKDecimal::FromReal(double value, TKDecimal& result) {
+    TKStatus status = TKStatus::kOverflow;
     if (std::isinf(value)) {
         result = BadValue();
-        TKReportError(TKMakeMessage(tkdcml::kFromDblOver, kTypeName, value));
-        return TKStatus::kOverflow;
+    } else {
+        status = FromDigits(TKDecimalPortable::FromReal(value), result);
     }
-    return FromDigits(TKDecimalPortable::FromReal(value), kRealFaults, value, result);
+    // These texts show the value, so they are made each time.
+    if (status == TKStatus::kOverflow)
+        TKReportError(TKMakeMessage(tkdcml::kFromDblOver, kTypeName, value));
+    if (status == TKStatus::kInexact)
+        TKReportError(TKMakeMessage(tkdcml::kFromDblInexact, kTypeName, value));
+    return status;
 }
 
 TKDecimalPortable TKDecimal::ToPortable() const {
@@ -173,19 +196,19 @@ TKDecimalPortable TKDecimal::ToPortable() const {
 }
 
 TKStatus TKDecimal::Add(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Add, a, b, kAddFaults, result);
+    return Apply(Kernel::Add, Operation::kAdd, a, b, result);
 }
 
 TKStatus TKDecimal::Subtract(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Subtract, a, b, kSubtractFaults, result);
+    return Apply(Kernel::Subtract, Operation::kSubtract, a, b, result);
 }
 
 TKStatus TKDecimal::Multiply(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Multiply, a, b, kMultiplyFaults, result);
+    return Apply(Kernel::Multiply, Operation::kMultiply, a, b, result);
 }
 
 TKStatus TKDecimal::Divide(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Divide, a, b, kDivideFaults, result);
+    return Apply(Kernel::Divide, Operation::kDivide, a, b, result);
 }
 
 TKDecimal TKDecimal::Round(int places) const {
@@ -214,10 +237,14 @@ std::string TKDecimal::asString() const {
         }
         digits.push_back(static_cast<char>('0' + digit));
     } while ((words[0] | words[1] | words[2]) != 0);
+    // The digits came least significant first; write them out the other way round.
     const std::size_t scale = static_cast<std::size_t>(m_nScale);
     if (digits.size() <= scale) digits.append(scale + 1 - digits.size(), '0');
-    std::reverse(digits.begin(), digits.end());
-    if (scale > 0) digits.insert(digits.size() - scale, ".");
-    if (IsNegative()) digits.insert(0, "-");
-    return digits;
+    std::string text;
+    if (IsNegative()) text.push_back('-');
+    for (std::size_t i = digits.size(); i-- > 0;) {
+        text.push_back(digits[i]);
+        if (i == scale && scale > 0) text.push_back('.');
+    }
+    return text;
 }

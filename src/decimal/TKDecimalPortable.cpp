@@ -103,7 +103,8 @@ TKDecimalPortable TKDecimalPortable::FromText(std::string_view text) {
     TKDecimalPortable portable;
     bool negative = false;
     if (!Parse(text, negative, portable.m_strWhole, portable.m_strFraction)) {
-        std::string got = "\"" + std::string(text) + "\"";
+        std::string got(1, '"');
+        got.append(text).append(1, '"');
         TKReportError(
             TKMakeMessage<TKExternalErr>(tkcore::kSynStream, "a decimal number", got.c_str()));
         return TKDecimalPortable(kCtorError, false, {}, {});
@@ -132,7 +133,7 @@ TKDecimalPortable TKDecimalPortable::FromReal(double value) {
     if (separator != nullptr && *separator != '\0' && std::string_view(separator) != ".") {
         for (std::size_t at = text.find(separator); at != std::string::npos;
              at = text.find(separator, at + 1))
-            text.replace(at, std::string_view(separator).size(), ".");
+            text.replace(at, std::string_view(separator).size(), 1, '.');
     }
     return FromText(text);
 }
@@ -152,8 +153,9 @@ std::string TKDecimalPortable::asString() const {
         default:
             return "(Impossible value)";
     }
-    std::string text = m_strWhole.empty() ? "0" : m_strWhole;
-    if (m_bNegative != 0 && !(m_strWhole.empty() && m_strFraction.empty())) text.insert(0, "-");
-    if (!m_strFraction.empty()) text += "." + m_strFraction;
+    std::string text;
+    if (m_bNegative != 0 && !(m_strWhole.empty() && m_strFraction.empty())) text += '-';
+    text += m_strWhole.empty() ? "0" : m_strWhole;
+    if (!m_strFraction.empty()) text.append(1, '.').append(m_strFraction);
     return text;
 }

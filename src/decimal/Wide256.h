@@ -3,6 +3,7 @@
 // limbs, least significant first; U is the 128-bit type that holds a double limb.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 
 namespace vx::decimal {
@@ -42,11 +43,7 @@ public:
 
     int BitLength() const {
         for (int i = 3; i >= 0; --i) {
-            if (m_limbs[i] == 0) continue;
-            int bits = 64;
-            while ((m_limbs[i] >> (bits - 1)) == 0)
-                --bits;
-            return i * 64 + bits;
+            if (m_limbs[i] != 0) return i * 64 + 64 - std::countl_zero(m_limbs[i]);
         }
         return 0;
     }

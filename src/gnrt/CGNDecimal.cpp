@@ -81,17 +81,21 @@ bool IsDecimalText(std::string_view text) {
 
 std::string Grouped(std::string_view digits, const RegionalFormat& format) {
     if (format.thousands.empty() || format.groups.empty()) return std::string(digits);
-    std::string result;
-    std::size_t end = digits.size(), group = 0;
-    for (;;) {
+    // Group sizes from the right; the first group is the leftmost, whatever remains.
+    std::vector<std::size_t> sizes;
+    std::size_t rest = digits.size();
+    for (std::size_t group = 0; group < format.groups.size() || format.repeatLast; ++group) {
         int size = format.groups[std::min(group, format.groups.size() - 1)];
-        bool grouping = group < format.groups.size() || format.repeatLast;
-        if (!grouping || size <= 0 || end <= static_cast<std::size_t>(size)) break;
-        result.insert(0, format.thousands + std::string(digits.substr(end - size, size)));
-        end -= static_cast<std::size_t>(size);
-        ++group;
+        if (size <= 0 || rest <= static_cast<std::size_t>(size)) break;
+        sizes.push_back(static_cast<std::size_t>(size));
+        rest -= static_cast<std::size_t>(size);
     }
-    return std::string(digits.substr(0, end)) + result;
+    std::string result(digits.substr(0, rest));
+    for (std::size_t i = sizes.size(); i-- > 0;) {
+        result.append(format.thousands).append(digits.substr(rest, sizes[i]));
+        rest += sizes[i];
+    }
+    return result;
 }
 
 }  // namespace
@@ -102,16 +106,16 @@ bool CGNDecimal::ConvertToRegionalLocale(bool grouping) {
     if (!IsDecimalText(m_strText)) return false;
     const RegionalFormat format = UserFormat();
     std::string_view text = m_strText;
-    std::string sign;
+    std::string converted;
     if (text[0] == '-' || text[0] == '+') {
-        sign = text.substr(0, 1);
+        converted.push_back(text[0]);
         text.remove_prefix(1);
     }
     std::size_t point = text.find('.');
     std::string_view whole = text.substr(0, point);
-    std::string converted = sign + (grouping ? Grouped(whole, format) : std::string(whole));
+    converted.append(grouping ? Grouped(whole, format) : std::string(whole));
     if (point != std::string_view::npos)
-        converted += format.decimalPoint + std::string(text.substr(point + 1));
+        converted.append(format.decimalPoint).append(text.substr(point + 1));
     m_strText = converted;
     return true;
 }
