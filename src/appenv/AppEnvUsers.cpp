@@ -83,8 +83,8 @@ CAppEnv::flag CAppEnv::DeleteUser(const CGNString& name) {
             break;
         }
         WriteSlotName(slot, moved);
-        // When the next slot has a name but no folder, this slot keeps the folder it had;
-        // clients have always behaved so and settings written by them rely on nothing else.
+        // When the next slot has a name but no folder, this slot keeps the folder it had, as
+        // every client before this one left it.
         if (ReadSlotFolder(slot + 1, moved)) WriteSlotFolder(slot, moved);
     }
     return 1;

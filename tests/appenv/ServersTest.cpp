@@ -1,6 +1,5 @@
 // The server file of a home folder: listing, writing from names and from records, attributes.
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -18,47 +17,50 @@ protected:
     std::string File() const { return MakeFilePath(folder.c_str(), "VX").str(); }
     void WriteFile(const std::string& text) const { vx::test::WriteBytes(File(), text); }
 
-    std::vector<std::string> List(bool all, bool workflow, int expected = 1) const {
+    // The names listed after a name that was in the list before, joined by blanks.
+    std::string List(bool all, bool workflow, int expected = 1) const {
         CVXServerNameList list;
         list.AddServer(CVXServerNameType("kept"));
         EXPECT_EQ(CAppEnv::GetServerList(folder.c_str(), list, all, workflow), expected);
-        std::vector<std::string> names;
+        std::string names;
         for (int i = 1; i < list.GetCount(); ++i)
-            names.push_back(list.GetServer(i)->GetName());
+            names += (i > 1 ? " " : "") + std::string(list.GetServer(i)->GetName());
         return names;
+    }
+
+    // "<result>: <disabled><workflow><notifier> port/rpc/notifier port" from both overloads,
+    // which must agree on what they share.
+    std::string Attributes(const char* server) const {
+        CAppEnv::flag flags[3] = {9, 9, 9}, shortFlags[3] = {9, 9, 9};
+        CGNString port = "x", rpc = "x", notifierPort = "x", shortPort = "x", shortRpc = "x";
+        const int result = CAppEnv::GetServerAttributes(folder.c_str(), server, flags[0], flags[1],
+                                                        flags[2], port, rpc, notifierPort);
+        EXPECT_EQ(CAppEnv::GetServerAttributes(folder.c_str(), server, shortFlags[0], shortFlags[1],
+                                               shortFlags[2], shortPort, shortRpc),
+                  result);
+        EXPECT_EQ(shortPort.str() + "/" + shortRpc.str(), port.str() + "/" + rpc.str());
+        return std::to_string(result) + ": " + std::to_string(flags[0]) + std::to_string(flags[1]) +
+               std::to_string(flags[2]) + " " + port.str() + "/" + rpc.str() + "/" +
+               notifierPort.str();
     }
 
     const std::string folder = Folder("ann");
 };
 
-using Names = std::vector<std::string>;
-
 TEST_F(ServersTest, ListingFiltersByKindAndDisabledMark) {
     WriteFile(
-        "alpha VX;NT;2000;390600;2001\n"
-        "#beta VX;;;;\n"
-        "gamma ;NT;;;\n"
-        "delta\n"
-        "old VX\r\n"
-        "tab\tname VX\n"
-        "\n"
-        "alpha VX\n");
-    EXPECT_EQ(List(true, true), (Names{"alpha", "beta", "gamma", "delta", "old", "alpha"}));
+        "alpha VX;NT;2000;390600;2001\n#beta VX;;;;\ngamma ;NT;;;\ndelta\nold VX\r\n"
+        "tab\tname VX\n\nalpha VX\n" +
+        std::string(70, 's') + " VX\nfar ;;;;12345678901234567890NT\nnotype  NT\n");
+    const std::string longName(64, 's');
+    EXPECT_EQ(List(true, true), "alpha beta gamma delta old alpha " + longName + " far notype");
     EXPECT_EQ(List(true, false), List(true, true));
-    EXPECT_EQ(List(false, true), (Names{"alpha", "old", "alpha"}));
-    EXPECT_EQ(List(false, false), (Names{"alpha", "gamma"}));
-}
+    EXPECT_EQ(List(false, true), "alpha old alpha " + longName);
+    // The type word is cut to 24 bytes, so the tag at the end of "far" is not seen.
+    EXPECT_EQ(List(false, false), "alpha gamma notype");
 
-TEST_F(ServersTest, ListingCutsLongNamesAndLooksAtTheTypeWordOnly) {
-    const std::string longName(70, 's');
-    // The type word is cut to 24 bytes, so a tag after that is not seen.
-    WriteFile(longName + " VX\nfar ;;;;12345678901234567890NT\nnotype  NT\n");
-    EXPECT_EQ(List(true, true), (Names{longName.substr(0, 64), "far", "notype"}));
-    EXPECT_EQ(List(false, false), (Names{"notype"}));
-}
-
-TEST_F(ServersTest, AMissingFileGivesZeroAndLeavesTheList) {
-    EXPECT_EQ(List(true, true, 0), Names{});
+    std::filesystem::remove(File());
+    EXPECT_EQ(List(true, true, 0), "");
     CVXServerNameList list;
     EXPECT_EQ(CAppEnv::GetServerList("", list, 1, 1), 0);
 }
@@ -67,84 +69,33 @@ TEST_F(ServersTest, RecordsAreWrittenAsFullLinesAndReadBack) {
     tagSERVERTYPE alpha{"alpha", 0, 1, 1, "2000", "390600", "2001"};
     tagSERVERTYPE beta{"beta", 1, 1, 0, "", "", ""};
     tagSERVERTYPE gamma{"gamma", 0, 0, 1, "", "390680", ""};
-    const ServerTypeList servers{&alpha, nullptr, &beta, &gamma};
-    ASSERT_EQ(CAppEnv::SetServerList(folder.c_str(), servers), 1);
+    ASSERT_EQ(CAppEnv::SetServerList(folder.c_str(), {&alpha, nullptr, &beta, &gamma}), 1);
 #ifdef _WIN32
-    const char* eol = "\r\n";
+    const std::string eol = "\r\n";
 #else
-    const char* eol = "\n";
+    const std::string eol = "\n";
 #endif
-    EXPECT_EQ(vx::test::ReadBytes(File()), std::string("alpha VX;NT;2000;390600;2001") + eol +
-                                               "#beta VX;;;;" + eol + "gamma ;NT;;390680;" + eol);
-
-    struct Expected {
-        const char* name;
-        int disabled, workflow, notifier;
-        const char *port, *rpc, *notifierPort;
-    };
-    for (const Expected& e :
-         {Expected{"alpha", 0, 1, 1, "2000", "390600", "2001"},
-          Expected{"beta", 1, 1, 0, "", "", ""}, Expected{"gamma", 0, 0, 1, "", "390680", ""}}) {
-        CAppEnv::flag disabled = 9, workflow = 9, notifier = 9;
-        CGNString port = "x", rpc = "x", notifierPort = "x";
-        EXPECT_EQ(CAppEnv::GetServerAttributes(folder.c_str(), e.name, disabled, workflow, notifier,
-                                               port, rpc, notifierPort),
-                  1);
-        EXPECT_EQ(disabled, e.disabled) << e.name;
-        EXPECT_EQ(workflow, e.workflow) << e.name;
-        EXPECT_EQ(notifier, e.notifier) << e.name;
-        EXPECT_EQ(port, e.port) << e.name;
-        EXPECT_EQ(rpc, e.rpc) << e.name;
-        EXPECT_EQ(notifierPort, e.notifierPort) << e.name;
-
-        CGNString shortPort = "x", shortRpc = "x";
-        EXPECT_EQ(CAppEnv::GetServerAttributes(folder.c_str(), e.name, disabled, workflow, notifier,
-                                               shortPort, shortRpc),
-                  1);
-        EXPECT_EQ(shortPort, e.port) << e.name;
-        EXPECT_EQ(shortRpc, e.rpc) << e.name;
-    }
+    EXPECT_EQ(vx::test::ReadBytes(File()), "alpha VX;NT;2000;390600;2001" + eol + "#beta VX;;;;" +
+                                               eol + "gamma ;NT;;390680;" + eol);
+    EXPECT_EQ(Attributes("alpha"), "1: 011 2000/390600/2001");
+    EXPECT_EQ(Attributes("beta"), "1: 110 //");
+    EXPECT_EQ(Attributes("gamma"), "1: 001 /390680/");
+    EXPECT_EQ(CAppEnv::SetServerList("", ServerTypeList{}), 0);
 }
 
 TEST_F(ServersTest, AttributesMatchTheWholeFirstWordOfATrimmedLine) {
     WriteFile(
-        "alphabet VX;NT;1;2;3\n"
-        "  #   alpha   NT  \n"
-        "legacy VX NT\n"
-        "short VX;NT;10;20\n");
-    CAppEnv::flag disabled = 0, workflow = 0, notifier = 0;
-    CGNString port, rpc, notifierPort;
-    const auto read = [&](const char* name) {
-        return CAppEnv::GetServerAttributes(folder.c_str(), name, disabled, workflow, notifier,
-                                            port, rpc, notifierPort);
-    };
-    ASSERT_EQ(read("alpha"), 1);
-    EXPECT_EQ(disabled, 1);
-    EXPECT_EQ(workflow, 0);
-    EXPECT_EQ(notifier, 1);
-    EXPECT_EQ(port, "");
-
+        "alphabet VX;NT;1;2;3\n  #   alpha   NT  \nlegacy VX NT\nshort VX;NT;10;20\ntwo "
+        "VX;NT;10\n");
+    EXPECT_EQ(Attributes("alpha"), "1: 101 //");
     // Lines with tags only, as older clients wrote them, leave the ports empty.
-    ASSERT_EQ(read("legacy"), 1);
-    EXPECT_EQ(workflow, 1);
-    EXPECT_EQ(notifier, 1);
-    EXPECT_EQ(port, "");
-
-    ASSERT_EQ(read("short"), 1);
-    EXPECT_EQ(port, "10");
-    EXPECT_EQ(rpc, "20");
-    EXPECT_EQ(notifierPort, "");
-
-    // Not found, an empty name, or no file: everything cleared and 0.
-    for (const char* name : {"alp", "", "ALPHA"}) {
-        disabled = workflow = notifier = 7;
-        port = rpc = notifierPort = "x";
-        EXPECT_EQ(read(name), 0) << name;
-        EXPECT_EQ(disabled + workflow + notifier, 0) << name;
-        EXPECT_EQ(port.str() + rpc.str() + notifierPort.str(), "") << name;
-    }
+    EXPECT_EQ(Attributes("legacy"), "1: 011 //");
+    EXPECT_EQ(Attributes("short"), "1: 011 10/20/");
+    EXPECT_EQ(Attributes("two"), "1: 011 //");
+    for (const char* absent : {"alp", "", "ALPHA"})
+        EXPECT_EQ(Attributes(absent), "0: 000 //");
     std::filesystem::remove(File());
-    EXPECT_EQ(read("alpha"), 0);
+    EXPECT_EQ(Attributes("alpha"), "0: 000 //");
 }
 
 TEST_F(ServersTest, NameListReplacesTheWholeFile) {
@@ -153,12 +104,9 @@ TEST_F(ServersTest, NameListReplacesTheWholeFile) {
     list.AddServer(CVXServerNameType("one"));
     list.AddServer(CVXServerNameType("two"));
     ASSERT_EQ(CAppEnv::SetVXServerList(folder.c_str(), list), 1);
-    EXPECT_EQ(List(true, true), (Names{"one", "two"}));
-    EXPECT_EQ(List(false, false), Names{});
-
-    CVXServerNameList empty;
-    EXPECT_EQ(CAppEnv::SetVXServerList("", empty), 0);
-    EXPECT_EQ(CAppEnv::SetServerList("", ServerTypeList{}), 0);
+    EXPECT_EQ(List(true, true), "one two");
+    EXPECT_EQ(List(false, false), "");
+    EXPECT_EQ(CAppEnv::SetVXServerList("", list), 0);
 }
 
 }  // namespace

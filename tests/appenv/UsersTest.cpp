@@ -1,8 +1,6 @@
 // Users and home folders: the slot algebra in the registry, legacy migration, lookups.
-#include <functional>
+#include <sstream>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -12,234 +10,126 @@
 
 namespace {
 
-using vx::test::AppEnvTest;
-
-struct Slot {
-    std::string name;
-    std::string folder;  // "<absent>": the slot has no "VXPATH%u"
-
-    friend bool operator==(const Slot&, const Slot&) = default;
-};
-
-void PrintTo(const Slot& slot, std::ostream* out) {
-    *out << slot.name << " -> " << slot.folder;
-}
-
-class UsersTest : public AppEnvTest {
+// Slots are written as "ann bob=/x cid=": in slot order, a bare name with the folder "/h/<name>",
+// "name=folder" with another one, "name=" without any "VXPATH%u".
+class UsersTest : public vx::test::AppEnvTest {
 protected:
-    void Seed(const std::vector<Slot>& slots, const std::string& last) {
-        for (std::size_t i = 0; i < slots.size(); ++i) {
-            const std::string n = std::to_string(i + 1);
-            SetReg("USER" + n, slots[i].name);
-            if (slots[i].folder != "<absent>") SetReg("VXPATH" + n, slots[i].folder);
+    void Seed(const std::string& slots, const std::string& last = "<absent>") {
+        std::istringstream words(slots);
+        std::string word;
+        for (int n = 1; words >> word; ++n) {
+            const auto equals = word.find('=');
+            SetReg("USER" + std::to_string(n), word.substr(0, equals));
+            if (equals == std::string::npos) SetReg("VXPATH" + std::to_string(n), "/h/" + word);
+            if (equals != std::string::npos && equals + 1 < word.size())
+                SetReg("VXPATH" + std::to_string(n), word.substr(equals + 1));
         }
         if (last != "<absent>") SetRegNumber("LastUserLoggedIn", std::stoi(last));
     }
 
-    // The slots as stored, up to the first without a name; also checks that nothing of a slot
-    // is left behind after it.
-    std::vector<Slot> StoredSlots() {
-        std::vector<Slot> slots;
+    // The stored slots in the same notation, up to the first without a name.
+    std::string StoredSlots() {
+        std::string slots;
         for (int n = 1;; ++n) {
             const std::string name = Reg("USER" + std::to_string(n));
             const std::string folder = Reg("VXPATH" + std::to_string(n));
             if (name == "<absent>") {
-                EXPECT_EQ(folder, "<absent>") << "slot " << n;
+                EXPECT_EQ(folder, "<absent>") << "left behind in slot " << n;
                 return slots;
             }
-            slots.push_back({name, folder});
+            if (!slots.empty()) slots += ' ';
+            slots += name;
+            if (folder == "<absent>") slots += "=";
+            if (folder != "<absent>" && folder != "/h/" + name) slots += "=" + folder;
         }
     }
 
-    static std::pair<std::vector<std::string>, std::vector<std::string>> List() {
+    // "names|folders" as listed, each part joined by blanks.
+    static std::string List() {
         CGNStringList names, folders;
         EXPECT_EQ(CAppEnv::GetListOfUsers(names, folders), 1);
-        std::pair<std::vector<std::string>, std::vector<std::string>> result;
-        for (const CGNString& name : names)
-            result.first.push_back(name.str());
-        for (const CGNString& folder : folders)
-            result.second.push_back(folder.str());
-        return result;
+        return names.Join(' ').str() + "|" + folders.Join(' ').str();
+    }
+
+    static void Legacy(const char* key, const char* value) {
+        vx::LegacyProfileWriteString("VXUser", key, value);
     }
 };
 
-struct SlotCase {
-    const char* what;
-    std::vector<Slot> before;
-    const char* lastBefore;
-    std::function<int()> operation;
-    int result;
-    std::vector<Slot> after;
-    const char* lastAfter;
-};
-
-const Slot kAnn{"ann", "/h/ann"};
-const Slot kBob{"bob", "/h/bob"};
-const Slot kCid{"cid", "/h/cid"};
-
-TEST_F(UsersTest, SlotsStayDenseThroughAddDeleteAndRename) {
-    const SlotCase cases[] = {
-        {"delete the middle one, last after it",
-         {kAnn, kBob, kCid},
-         "3",
-         [] { return CAppEnv::DeleteUser("bob"); },
-         1,
-         {kAnn, kCid},
-         "2"},
-        {"delete the last user itself",
-         {kAnn, kBob, kCid},
-         "2",
-         [] { return CAppEnv::DeleteUser("bob"); },
-         1,
-         {kAnn, kCid},
-         "-1"},
-        {"delete after the last user",
-         {kAnn, kBob, kCid},
-         "1",
-         [] { return CAppEnv::DeleteUser("bob"); },
-         1,
-         {kAnn, kCid},
-         "1"},
-        {"delete with nobody remembered",
-         {kAnn, kBob},
-         "<absent>",
-         [] { return CAppEnv::DeleteUser("ann"); },
-         1,
-         {kBob},
-         "-1"},
-        {"delete the only user",
-         {kAnn},
-         "1",
-         [] { return CAppEnv::DeleteUser("ann"); },
-         1,
-         {},
-         "-1"},
-        {"delete an unknown user",
-         {kAnn, kBob},
-         "2",
-         [] { return CAppEnv::DeleteUser("zed"); },
-         0,
-         {kAnn, kBob},
-         "2"},
-        {"names are compared with their case",
-         {kAnn},
-         "<absent>",
-         [] { return CAppEnv::DeleteUser("Ann"); },
-         0,
-         {kAnn},
-         "<absent>"},
-        // A moved slot without a folder leaves the previous folder in place.
-        {"delete before a slot without folder",
-         {kAnn, kBob, {"cid", "<absent>"}},
-         "3",
-         [] { return CAppEnv::DeleteUser("bob"); },
-         1,
-         {kAnn, {"cid", "/h/bob"}},
-         "2"},
-        {"add a new user",
-         {kAnn},
-         "1",
-         [] { return CAppEnv::AddUser("bob", "/h/bob"); },
-         1,
-         {kAnn, kBob},
-         "1"},
-        {"add to an empty list",
-         {},
-         "<absent>",
-         [] { return CAppEnv::AddUser("ann", "/h/ann"); },
-         1,
-         {kAnn},
-         "<absent>"},
-        {"add an existing user",
-         {kAnn, kBob},
-         "<absent>",
-         [] { return CAppEnv::AddUser("ann", "/new"); },
-         1,
-         {{"ann", "/new"}, kBob},
-         "<absent>"},
-        {"set a home path",
-         {kAnn, kBob},
-         "<absent>",
-         [] { return CAppEnv::SetUserHomePath("bob", "/new"); },
-         1,
-         {kAnn, {"bob", "/new"}},
-         "<absent>"},
-        {"rename keeps slot and folder",
-         {kAnn, kBob},
-         "2",
-         [] { return CAppEnv::RenameUser("bob", "rob"); },
-         1,
-         {kAnn, {"rob", "/h/bob"}},
-         "2"},
-        {"rename an unknown user",
-         {kAnn},
-         "<absent>",
-         [] { return CAppEnv::RenameUser("zed", "rob"); },
-         0,
-         {kAnn},
-         "<absent>"},
-        {"remember a user",
-         {kAnn, kBob},
-         "<absent>",
-         [] { return CAppEnv::SetLastUserLoggedIn("bob"); },
-         1,
-         {kAnn, kBob},
-         "2"},
-        {"remember an unknown user",
-         {kAnn, kBob},
-         "1",
-         [] { return CAppEnv::SetLastUserLoggedIn("zed"); },
-         1,
-         {kAnn, kBob},
-         "-1"},
-    };
-    for (const SlotCase& c : cases) {
-        vx::test::TempHome fresh;  // a fresh store for each case
-        Seed(c.before, c.lastBefore);
-        EXPECT_EQ(c.operation(), c.result) << c.what;
-        EXPECT_EQ(StoredSlots(), c.after) << c.what;
-        EXPECT_EQ(Reg("LastUserLoggedIn"), c.lastAfter) << c.what;
-    }
+// "delete NAME", "add NAME FOLDER", "home NAME FOLDER", "rename OLD NEW", "last NAME".
+int Apply(const std::string& operation) {
+    std::istringstream words(operation);
+    std::string verb, first, second;
+    words >> verb >> first >> second;
+    if (verb == "delete") return CAppEnv::DeleteUser(first.c_str());
+    if (verb == "add") return CAppEnv::AddUser(first.c_str(), second.c_str());
+    if (verb == "home") return CAppEnv::SetUserHomePath(first.c_str(), second.c_str());
+    if (verb == "rename") return CAppEnv::RenameUser(first.c_str(), second.c_str());
+    return CAppEnv::SetLastUserLoggedIn(first.c_str());
 }
 
-TEST_F(UsersTest, DeletingEveryUserInTurnKeepsTheLastUserPointingAtTheSameName) {
-    Seed({kAnn, kBob, kCid, {"dan", "/h/dan"}}, "4");
-    for (const char* name : {"bob", "ann", "cid"}) {
-        ASSERT_EQ(CAppEnv::DeleteUser(name), 1);
-        const std::string last = Reg("LastUserLoggedIn");
-        EXPECT_EQ(Reg("USER" + last), "dan") << "after deleting " << name;
+TEST_F(UsersTest, SlotsStayDenseThroughAddDeleteAndRename) {
+    struct Case {
+        const char* before;
+        const char* lastBefore;
+        const char* operation;
+        int result;
+        const char* after;
+        const char* lastAfter;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"ann bob cid", "3",        "delete bob",        1, "ann cid",          "2"},
+        {"ann bob cid", "2",        "delete bob",        1, "ann cid",          "-1"},
+        {"ann bob cid", "1",        "delete bob",        1, "ann cid",          "1"},
+        {"ann bob",     "<absent>", "delete ann",        1, "bob",              "-1"},
+        {"ann",         "1",        "delete ann",        1, "",                 "-1"},
+        {"ann bob",     "2",        "delete zed",        0, "ann bob",          "2"},
+        {"ann",         "<absent>", "delete Ann",        0, "ann",              "<absent>"},
+        // A moved slot without a folder keeps the folder that its new slot had.
+        {"ann bob cid=", "3",       "delete bob",        1, "ann cid=/h/bob",   "2"},
+        {"ann",         "1",        "add bob /h/bob",    1, "ann bob",          "1"},
+        {"",            "<absent>", "add ann /h/ann",    1, "ann",              "<absent>"},
+        {"ann bob",     "<absent>", "add ann /new",      1, "ann=/new bob",     "<absent>"},
+        {"ann bob",     "<absent>", "home bob /new",     1, "ann bob=/new",     "<absent>"},
+        {"ann bob",     "2",        "rename bob rob",    1, "ann rob=/h/bob",   "2"},
+        {"ann",         "<absent>", "rename zed rob",    0, "ann",              "<absent>"},
+        {"ann bob",     "<absent>", "last bob",          1, "ann bob",          "2"},
+        {"ann bob",     "1",        "last zed",          1, "ann bob",          "-1"},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        vx::test::TempHome fresh;
+        Seed(c.before, c.lastBefore);
+        EXPECT_EQ(Apply(c.operation), c.result) << c.before << ": " << c.operation;
+        EXPECT_EQ(StoredSlots(), c.after) << c.before << ": " << c.operation;
+        EXPECT_EQ(Reg("LastUserLoggedIn"), c.lastAfter) << c.before << ": " << c.operation;
     }
-    EXPECT_EQ(StoredSlots(), (std::vector<Slot>{{"dan", "/h/dan"}}));
 }
 
 TEST_F(UsersTest, ListingGivesEachNameOnceWithItsFirstFolder) {
-    Seed({kAnn, kBob, {"ann", "/other"}, {"cid", "<absent>"}}, "<absent>");
-    const auto [names, folders] = List();
-    EXPECT_EQ(names, (std::vector<std::string>{"ann", "bob", "cid"}));
-    EXPECT_EQ(folders, (std::vector<std::string>{"/h/ann", "/h/bob", ""}));
+    Seed("ann bob ann=/other cid=");
+    EXPECT_EQ(List(), "ann bob cid|/h/ann /h/bob ");
 }
 
 TEST_F(UsersTest, LegacyUsersMigrateOnFirstListingInTheirOrder) {
-    vx::LegacyProfileWriteString("VXUser", "USER1", "old1");
-    vx::LegacyProfileWriteString("VXUser", "Vxpath1", "/legacy/1");
-    vx::LegacyProfileWriteString("VXUser", "USER2", "old2");
-    vx::LegacyProfileWriteString("VXUser", "Vxpath2", "/legacy/2");
-    vx::LegacyProfileWriteString("VXUser", "VXPATH0", "/legacy");
-
-    const auto first = List();
-    EXPECT_EQ(first.first, (std::vector<std::string>{"old1", "old2"}));
-    EXPECT_EQ(first.second, (std::vector<std::string>{"/legacy/1", "/legacy/2"}));
-    EXPECT_EQ(StoredSlots(), (std::vector<Slot>{{"old1", "/legacy/1"}, {"old2", "/legacy/2"}}));
+    Legacy("USER1", "old1");
+    Legacy("Vxpath1", "/legacy/1");
+    Legacy("USER2", "old2");
+    Legacy("Vxpath2", "/legacy/2");
+    Legacy("VXPATH0", "/legacy");
+    EXPECT_EQ(List(), "old1 old2|/legacy/1 /legacy/2");
+    EXPECT_EQ(StoredSlots(), "old1=/legacy/1 old2=/legacy/2");
     EXPECT_EQ(Reg("VXPATH0"), "/legacy");
 
     // From now on the registry is the store of record.
-    vx::LegacyProfileWriteString("VXUser", "USER3", "late");
-    EXPECT_EQ(List(), first);
+    Legacy("USER3", "late");
+    EXPECT_EQ(List(), "old1 old2|/legacy/1 /legacy/2");
 }
 
 TEST_F(UsersTest, RenameBeforeMigrationRenamesTheLegacyUser) {
-    vx::LegacyProfileWriteString("VXUser", "USER1", "old1");
-    vx::LegacyProfileWriteString("VXUser", "USER2", "old2");
+    Legacy("USER1", "old1");
+    Legacy("USER2", "old2");
     EXPECT_EQ(CAppEnv::RenameUser("old2", "new2"), 1);
     char name[128] = {};
     vx::LegacyProfileGetString("VXUser", "USER2", "", name, sizeof name);
@@ -247,35 +137,26 @@ TEST_F(UsersTest, RenameBeforeMigrationRenamesTheLegacyUser) {
     EXPECT_EQ(Reg("USER1"), "<absent>");
 }
 
-TEST_F(UsersTest, DefaultHomePathComesFromTheRegistryOrMigratesFromLegacy) {
+TEST_F(UsersTest, HomeFoldersFallBackToTheDefaultWhichMigratesFromLegacy) {
     CGNString folder = "stale";
     EXPECT_EQ(CAppEnv::GetDefaultHomePath(folder), 0);
+    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 0);
     EXPECT_EQ(folder, "");
 
-    vx::LegacyProfileWriteString("VXUser", "VXPATH0", "/legacy");
-    EXPECT_EQ(CAppEnv::GetDefaultHomePath(folder), 1);
+    Legacy("VXPATH0", "/legacy");
+    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 1);
     EXPECT_EQ(folder, "/legacy");
     EXPECT_EQ(Reg("VXPATH0"), "/legacy");
-
     EXPECT_EQ(CAppEnv::SetDefaultHomePath("/home"), 1);
     EXPECT_EQ(CAppEnv::GetDefaultHomePath(folder), 1);
     EXPECT_EQ(folder, "/home");
-}
 
-TEST_F(UsersTest, FindHomeDirectoryFallsBackToTheDefaultFolder) {
-    Seed({kAnn, {"bob", "<absent>"}, {"bob", "/h/bob2"}}, "<absent>");
-    CGNString folder;
+    // The first "bob" has no folder: the search goes on to the next slot of that name.
+    Seed("ann bob= bob=/h/bob2");
     EXPECT_EQ(CAppEnv::FindHomeDirectory("ann", folder), 1);
     EXPECT_EQ(folder, "/h/ann");
-    // The first "bob" has no folder; the search goes on to the next slot of that name.
     EXPECT_EQ(CAppEnv::FindHomeDirectory("bob", folder), 1);
     EXPECT_EQ(folder, "/h/bob2");
-
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 0);
-    EXPECT_EQ(folder, "");
-    SetReg("VXPATH0", "/default");
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 1);
-    EXPECT_EQ(folder, "/default");
 }
 
 TEST_F(UsersTest, LastUserAndPath) {
@@ -285,34 +166,29 @@ TEST_F(UsersTest, LastUserAndPath) {
     EXPECT_EQ(slot, 0xFFFFFFFFu);
     EXPECT_STREQ(folder, "");
 
-    Seed({kAnn, {"bob", ""}}, "1");
+    Seed("ann bob=", "1");
     CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
     EXPECT_EQ(slot, 1u);
     EXPECT_STREQ(folder, "/h/ann");
-
     SetRegNumber("LastUserLoggedIn", 2);
     CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
     EXPECT_EQ(slot, 2u);
     EXPECT_STREQ(folder, "");
-
-    // Null arguments are tolerated.
     CAppEnv::GetLastUserAndPath(nullptr, nullptr, 0);
 }
 
 TEST_F(UsersTest, LastUserOfAnOlderClientIsTakenOverWithItsUsers) {
-    vx::LegacyProfileWriteString("VXUser", "USER1", "old1");
-    vx::LegacyProfileWriteString("VXUser", "Vxpath1", "/legacy/1");
-    vx::LegacyProfileWriteString("VXUser", "USER2", "old2");
-    vx::LegacyProfileWriteString("VXUser", "Vxpath2", "/legacy/2");
-    vx::LegacyProfileWriteString("VXUser", "LastUserLoggedIn", "2");
-
+    Legacy("USER1", "old1");
+    Legacy("USER2", "old2");
+    Legacy("Vxpath2", "/legacy/2");
+    Legacy("LastUserLoggedIn", "2");
     unsigned int slot = 0;
     char folder[vx::kHomeFolderBufferSize] = {};
     CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
     EXPECT_EQ(slot, 2u);
     EXPECT_STREQ(folder, "/legacy/2");
     EXPECT_EQ(Reg("LastUserLoggedIn"), "2");
-    EXPECT_EQ(Reg("USER2"), "old2");
+    EXPECT_EQ(StoredSlots(), "old1= old2=/legacy/2");
 }
 
 }  // namespace
