@@ -118,19 +118,6 @@ TEST_F(NamesTest, ListsConvertToAndFromRecords) {
     EXPECT_TRUE(copy.GetNameList(empty));
     EXPECT_EQ(empty.numItems, 0u);
     EXPECT_EQ(empty.nameList, nullptr);
-
-    VXInternalId ids[] = {{4}, {8}};
-    CVXInternalIdList idList(VXInternalIdList{2, ids});
-    VXInternalIdList idRecord{};
-    ASSERT_TRUE(idList.GetInternalIdList(idRecord));
-    EXPECT_EQ(idRecord.internalIdList[1].id, 8u);
-
-    VXPermissionStruct permissions[] = {{3, 2}};
-    CVXPermissionList permissionList(VXPermissionList{1, permissions});
-    VXPermissionList permissionRecord{};
-    ASSERT_TRUE(permissionList.GetPermissionList(permissionRecord));
-    EXPECT_EQ(permissionRecord.permissionList[0].groupId, 3u);
-    EXPECT_EQ(permissionRecord.permissionList[0].permissions, 2u);
 }
 
 TEST_F(NamesTest, AddUniqueKeepsOneOfEachIdentifier) {
