@@ -30,6 +30,10 @@ constexpr Entry kTable[] = {
     {kStrSocketDescription, "Description"},
     {kStrSocketStatus, "Status"},
     {kStrResourceVersion, "Resource DLL Version"},
+    {kStrDateOutOfRange, "'%s' is not a valid date. Dates must lie between %s and %s."},
+    {kStrTimeOutOfRange, "'%s' is not a valid time. Times must lie between %s and %s."},
+    {kStrDateTimeOutOfRange,
+     "'%s' is not a valid date and time. Values must lie between %s and %s."},
 };
 
 static_assert(std::is_sorted(std::begin(kTable), std::end(kTable),

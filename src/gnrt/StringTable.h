@@ -18,6 +18,11 @@ enum StringId : unsigned {
     kStrSocketDescription = 3407,
     kStrSocketStatus = 3408,
     kStrResourceVersion = 3409,
+    // Range messages of the foundation classes: the refused text, then the lowest and the
+    // highest value allowed.
+    kStrDateOutOfRange = 25248,
+    kStrTimeOutOfRange = 25249,
+    kStrDateTimeOutOfRange = 25263,
 };
 
 // The built-in text of string `id`, or null when the table has none.
