@@ -49,8 +49,8 @@ public:
     Faults(const TKMessage& overflow, const TKMessage& inexact)
         : m_overflow(overflow),
           m_inexact(inexact),
-          m_strOverflow(TKFormat(overflow, TKDecimal::kTypeName)),
-          m_strInexact(TKFormat(inexact, TKDecimal::kTypeName)) {}
+          m_strOverflow(TKFormat(overflow.text, TKDecimal::kTypeName)),
+          m_strInexact(TKFormat(inexact.text, TKDecimal::kTypeName)) {}
 
     TKStatus Report(TKStatus status) const {
         if (status == TKStatus::kOverflow) TKReportError(TKxmsg(m_overflow, m_strOverflow));

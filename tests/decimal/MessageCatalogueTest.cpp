@@ -39,7 +39,7 @@ TEST_F(MessageCatalogueTest, SharedTextsAndKeysAreKept) {
 }
 
 TEST_F(MessageCatalogueTest, FormatsArguments) {
-    EXPECT_EQ(TKFormat(tkcore::kOvFlow, 3, "abcdef", 3u),
+    EXPECT_EQ(TKFormat(tkcore::kOvFlow.text, 3, "abcdef", 3u),
               "[OVFLOW] Overflow error -> \"abc\" <- (3 max characters)");
     TKExternalErr error = TKMakeMessage<TKExternalErr>(tkcore::kOpErr, "a.txt");
     EXPECT_STREQ(error.why(), "[OPERR] Could not open file a.txt");

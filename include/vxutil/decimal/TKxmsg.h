@@ -27,12 +27,12 @@ private:
     const TKMessage* m_pMessage = nullptr;
 };
 
-// The catalogue entry's text with its printf arguments filled in.
-VXUTIL_API std::string TKFormat(const TKMessage& message, ...);
+// A catalogue entry's text (a printf format) with its arguments filled in.
+VXUTIL_API std::string TKFormat(const char* text, ...);
 
 // A message of type T (TKxmsg or a class derived from it) from a catalogue entry and its
 // printf arguments.
 template <class T = TKxmsg, class... Args>
 T TKMakeMessage(const TKMessage& message, Args... args) {
-    return T(message, TKFormat(message, args...));
+    return T(message, TKFormat(message.text, args...));
 }
