@@ -7,6 +7,7 @@
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/gnrt/FilePath.h"
+#include "vxutil/runtime/RTrace.h"
 
 namespace {
 
@@ -119,6 +120,26 @@ TEST_F(PreferencesTest, MacroPathsComeFromVXPathOrTheHomeCommandFolder) {
         EXPECT_EQ(macros.Join('|'), c.paths) << c.vxPath;
         EXPECT_EQ(reports.Join('|'), c.paths) << c.vxPath;
     }
+}
+
+TEST_F(PreferencesTest, OperationsOpenTheirMethodTrace) {
+    RTrace trace(1, kTraceAllLevels, "Debug", "Trace", 1);
+    RTrace* previous = RTrace::SetModule(&trace);
+    app.WriteProfileInt("Debug", "Trace", 1);
+    CAppEnv::ExpandMenuItemsAtStartup(1);
+    CGNStringList paths;
+    CAppEnv::GetReportPathList("", paths);
+    RTrace::SetModule(previous);
+    std::string entries;
+    for (const char* n : {"1", "2", "3", "4", "5", "6"})
+        entries += app.GetProfileString("Debug", n, "").str() + "\n";
+    EXPECT_EQ(entries,
+              "RAppEnvironment:CAppEnv::ExpandMenuItemsAtStartup:Enter\n"
+              "RAppEnvironment:CAppEnv::ExpandMenuItemsAtStartup:Exit\n"
+              "RAppEnvironment:CAppEnv::GetReportPathList:Enter\n"
+              "RAppEnvironment:CAppEnv::GetMacroPathList:Enter\n"
+              "RAppEnvironment:CAppEnv::GetMacroPathList:Exit\n"
+              "RAppEnvironment:CAppEnv::GetReportPathList:Exit\n");
 }
 
 }  // namespace
