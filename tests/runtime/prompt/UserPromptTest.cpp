@@ -4,6 +4,14 @@
 
 #include "vxutil/runtime/MessageText.h"
 
+#ifdef _WIN32
+#include <windows.h>
+
+#include <thread>
+
+#include "vxutil/platform/RApplication.h"
+#endif
+
 namespace {
 
 TEST(UserPromptTest, DefaultAnswerIsTheButtonTheStyleNames) {
@@ -49,5 +57,27 @@ TEST(MessageTextTest, InsertsFillTheirNumberedPoints) {
     EXPECT_EQ(vx::LoadMessageText(3055, {"C:\\x"}),
               "C:\\x\n\nThis folder does not exist - create?");
 }
+
+#ifdef _WIN32
+// The question really is a message box: another thread finds it by its caption (the client
+// tool's name) and clicks Yes, which is not the default answer.
+TEST(UserPromptTest, WindowsAsksWithAMessageBox) {
+    RApplication app("VX prompt test", "");
+    RApplication* previous = RApplication::SetCurrent(&app);
+    std::thread clicker([] {
+        for (int attempt = 0; attempt < 1000; ++attempt) {
+            if (HWND box = ::FindWindowA("#32770", "VX prompt test")) {
+                ::PostMessageA(box, WM_COMMAND, IDYES, 0);
+                return;
+            }
+            ::Sleep(10);
+        }
+    });
+    const int answer = RUserPrompt::Current().Show(nullptr, "Create the folder?", 0x134);
+    clicker.join();
+    RApplication::SetCurrent(previous);
+    EXPECT_EQ(answer, vx::kIdYes);
+}
+#endif
 
 }  // namespace
