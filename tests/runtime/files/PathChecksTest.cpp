@@ -42,13 +42,6 @@ TEST_F(FolderTest, PathListStopsAtTheFirstMissingPath) {
     }
 }
 
-TEST_F(FolderTest, ExistingFolderIsValidWithoutAQuestion) {
-    File("here/x");
-    ScriptedPrompt prompt;
-    EXPECT_EQ(RValidatePathWithCreate(At("here"), nullptr), 1);
-    EXPECT_TRUE(prompt.shown.empty());
-}
-
 TEST_F(FolderTest, MissingFolderIsCreatedOnlyWhenTheUserSaysYes) {
     const CGNString wanted = At("new/deeper");
     {
@@ -62,6 +55,8 @@ TEST_F(FolderTest, MissingFolderIsCreatedOnlyWhenTheUserSaysYes) {
     ScriptedPrompt prompt({vx::kIdYes});
     EXPECT_EQ(RValidatePathWithCreate(wanted, nullptr), 1);
     EXPECT_TRUE(Exists("new/deeper"));
+    // Once it exists, no question is asked.
+    EXPECT_EQ(RValidatePathWithCreate(wanted, nullptr), 1);
     EXPECT_EQ(prompt.shown.size(), 1u);
 }
 

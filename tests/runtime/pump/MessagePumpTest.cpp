@@ -104,15 +104,6 @@ TEST_F(StationTest, PumpKeepsItsIdentifiersOnceEachInOrder) {
     pump.RemoveMessage(kA);
     EXPECT_EQ(pump.IsMessage(kA), 0);
     EXPECT_EQ(pump.GetMessageIndex(kB), 0);
-
-    const RVisualPump visual;
-    const unsigned expected[] = {vx::kWmPaint,     vx::kWmEraseBkgnd, vx::kWmNcPaint,
-                                 vx::kWmSetCursor, vx::kWmNcHitTest,  vx::kWmNcMouseMove,
-                                 vx::kWmMouseMove, vx::kWmNcCalcSize, vx::kWmSize,
-                                 vx::kWmMove};
-    for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(visual.GetMessageIndex(expected[i]), i);
-    EXPECT_EQ(visual.GetID(), 0u);
 }
 
 TEST_F(StationTest, StartGivesTimerIdsInTurnAndOnlyOnce) {
