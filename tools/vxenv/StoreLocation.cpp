@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "Commands.h"
-#include "vxutil/platform/SettingsHome.h"
+#include "vxutil/gnrt/OSConfigReg.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -16,9 +16,9 @@ constexpr std::string_view kCurrentUser = "HKEY_CURRENT_USER\\";
 
 std::string SystemConfigLocation() {
 #ifdef _WIN32
-    return std::string(kCurrentUser) + kRegistryRoot + "\\" + kUsersKeyPath;
+    return vx::SystemConfigLocation() + "\\" + kRegistryRoot + "\\" + kUsersKeyPath;
 #else
-    return vx::ResolveSettingsFile("registry.reg");
+    return vx::SystemConfigLocation();
 #endif
 }
 

@@ -12,6 +12,8 @@
 // Results: greater than 0 when done; 0 when the value is absent, unreadable or not written.
 #pragma once
 
+#include <string>
+
 #include "vxutil/export.h"
 #include "vxutil/gnrt/CGNString.h"
 
@@ -32,3 +34,9 @@ VXUTIL_API int OSSetSystemConfigReg(int& value, const CGNString& keyPath,
 // Removes one value. Greater than 0 when it existed and was removed.
 VXUTIL_API int OSDelSystemConfigReg(const CGNString& keyPath, const CGNString& valueName,
                                     const CGNString& root);
+
+namespace vx {
+// Where the store keeps its values, for display: the registry file on POSIX,
+// "HKEY_CURRENT_USER" on Windows.
+VXUTIL_API std::string SystemConfigLocation();
+}  // namespace vx

@@ -116,3 +116,7 @@ int OSDelSystemConfigReg(const CGNString& keyPath, const CGNString& valueName,
     const auto address = AddressOf(root, keyPath, valueName);
     return address && vx::registry::DeleteValue(address->keyPath, address->name) ? 1 : 0;
 }
+
+std::string vx::SystemConfigLocation() {
+    return vx::registry::Location();
+}

@@ -10,6 +10,8 @@
 
 namespace vx::registry {
 
+// Where the values are kept, for display.
+std::string Location();
 // True when the value exists (of any kind); false when it is absent or cannot be read.
 bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValue& out);
 // Creates the key when needed. False when the value could not be stored.

@@ -62,7 +62,7 @@ bool EditFile(const std::function<bool(RegistryDocument&)>& change, bool& change
     changed = false;
     EnsureSettingsHome();
     const bool written = UpdateFile(
-        ResolveSettingsFile(kFileName),
+        Location(),
         [&](std::string& content) {
             RegistryDocument document = RegistryDocument::FromBytes(content);
             changed = change(document);
@@ -76,8 +76,12 @@ bool EditFile(const std::function<bool(RegistryDocument&)>& change, bool& change
 
 }  // namespace
 
+std::string Location() {
+    return ResolveSettingsFile(kFileName);
+}
+
 bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValue& out) {
-    const auto document = Cache().Current(ResolveSettingsFile(kFileName));
+    const auto document = Cache().Current(Location());
     const RegistryValue* value = document ? document->Find(FullKey(keyPath), name) : nullptr;
     if (!value) return false;
     out = *value;

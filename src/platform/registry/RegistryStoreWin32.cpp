@@ -50,6 +50,10 @@ bool QueryValue(HKEY key, const std::string& name, DWORD& type, std::string& dat
 
 }  // namespace
 
+std::string Location() {
+    return "HKEY_CURRENT_USER";
+}
+
 bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValue& out) {
     OpenKey key(keyPath, KEY_QUERY_VALUE, false);
     DWORD type = REG_NONE;
