@@ -1,22 +1,17 @@
 #include "decimal/FatalPrompt.h"
 
-#include "vxutil/decimal/TKErrorHandlers.h"
+#include <string>
 
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <cstdio>
-#endif
+#include "vxutil/decimal/TKErrorHandlers.h"
+#include "vxutil/runtime/RUserPrompt.h"
 
 namespace vx::decimal {
 
-// TODO(prompt): route through the library's message-box service once it is available.
+// The message-box service takes no caption of its own (it shows the application's name), so
+// the title goes in front of the text.
 void ShowFatalPrompt(const char* text) {
-#ifdef _WIN32
-    MessageBoxA(nullptr, text, "Fatal Error", kTKFatalBoxStyle);
-#else
-    std::fprintf(stderr, "Fatal Error: %s\n", text);
-#endif
+    const std::string shown = std::string("Fatal Error: ") + (text != nullptr ? text : "");
+    RUserPrompt::Current().Show(nullptr, shown.c_str(), kTKFatalBoxStyle);
 }
 
 }  // namespace vx::decimal

@@ -3,7 +3,8 @@
 
 namespace vx::decimal {
 
-// The text in a task-modal box titled "Fatal Error" with the stop icon (kTKFatalBoxStyle).
+// "Fatal Error" and the text in a task-modal box with the stop icon (kTKFatalBoxStyle),
+// through the library's message-box service.
 void ShowFatalPrompt(const char* text);
 
 }  // namespace vx::decimal

@@ -4,9 +4,10 @@
 // error handler; the operation that raised one still returns its result flag. The default
 // error handler writes the message text to the library's trace log.
 //
-// Fatal messages go to the process-wide fatal handler. The default one shows the text in a
-// task-modal message box titled "Fatal Error" with the stop icon and ends the process with
-// exit status 1; a handler that returns lets the failing operation return its failure flag.
+// Fatal messages go to the process-wide fatal handler. The default one shows "Fatal Error" and
+// the text through the library's message-box service (RUserPrompt), task-modal with the stop
+// icon, and ends the process with exit status 1; a handler that returns lets the failing
+// operation return its failure flag.
 #pragma once
 
 #include "vxutil/decimal/TKxmsg.h"
