@@ -20,6 +20,18 @@ public:
         kDateIso = 3,      // 2038-01-19; the style of the range messages
     };
 
+    // What parseDateTime accepts. Dates are ISO 8601 (2038-01-19) or numeric in the user's
+    // order of day, month and year (the locale's date format on POSIX, its date order on
+    // Windows), or month/day/year as the display styles write them; a two-digit year below 70
+    // is in the 2000s. A time of day is HH:MM or HH:MM:SS, 24 hours; after a date it follows a
+    // blank or ISO's "T", and may end in "Z".
+    enum ParseOption {
+        kParseDate = 2,      // a date alone, at midnight
+        kParseDateTime = 3,  // a date, optionally with a time of day
+        kParseTime = 4,      // a time of day alone, on 1970-01-01
+        // any other value: a date, a date with a time or a time alone
+    };
+
     // The earliest and latest instants the server's time type holds.
     static constexpr std::int64_t kMinSeconds = 0;
     static constexpr std::int64_t kMaxSeconds = INT32_MAX;
@@ -28,6 +40,9 @@ public:
     explicit CGNDateTime(std::int64_t seconds) : m_seconds(seconds) {}
 
     std::int64_t GetSeconds() const { return m_seconds; }
+    // Sets the instant from `text` read as `option` says (UTC, like the display texts); false,
+    // leaving the instant as it was, for other text or an instant outside the server's range.
+    bool parseDateTime(const char* text, int option);
 
     // The date in `style` (an unknown style gives kDateIso).
     CGNString FormatDate(int style) const;
