@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "foundation/value/EncodedFields.h"
 #include "foundation/value/RealText.h"
 #include "vxutil/decimal/NumericLocaleScope.h"
 #include "vxutil/foundation/CVXValueStruct.h"
@@ -12,29 +13,10 @@
 
 namespace {
 
-// Moves the cursor past the next backslash, or to the end of the text when none follows.
-void SkipField(const char*& cursor) {
-    const char* backslash = vx::mb::FindChar(cursor, '\\');
-    cursor = backslash != nullptr ? backslash + 1 : cursor + std::strlen(cursor);
-}
-
-bool ReadLong(const char*& cursor, long& value) {
-    char* end = nullptr;
-    value = std::strtol(cursor, &end, 10);
-    if (end == cursor) return false;
-    cursor = end;
-    SkipField(cursor);
-    return true;
-}
-
-bool ReadUnsignedLong(const char*& cursor, unsigned long& value) {
-    char* end = nullptr;
-    value = std::strtoul(cursor, &end, 10);
-    if (end == cursor) return false;
-    cursor = end;
-    SkipField(cursor);
-    return true;
-}
+using vx::encoded::ClientText;
+using vx::encoded::ReadLong;
+using vx::encoded::ReadUnsignedLong;
+using vx::encoded::SkipField;
 
 // A character count, a backslash, that many characters and a closing backslash (or the end).
 bool ReadCounted(const char*& cursor, CGNString& text) {
@@ -55,19 +37,6 @@ bool ReadCounted(const char*& cursor, CGNString& text) {
         return false;
     }
     return true;
-}
-
-// Character and attachment texts carry line feeds as 0x01 bytes.
-CGNString ClientText(CGNString text, bool lineFeeds) {
-    if (lineFeeds) {
-        std::string bytes = text.str();
-        for (char& c : bytes) {
-            if (c == '\x01') c = '\n';
-        }
-        text = bytes;
-    }
-    text.ClientFormat();
-    return text;
 }
 
 }  // namespace
@@ -156,7 +125,7 @@ bool CVXValueStruct::Decode(const char*& cursor) {
         case VX_DATA_TYPE_ATTACH:
         case VX_DATA_TYPE_DECIMAL:
             if (!ReadCounted(cursor, text)) return false;
-            text = ClientText(text, type != VX_DATA_TYPE_DECIMAL);
+            text = ClientText(text.c_str(), type != VX_DATA_TYPE_DECIMAL);
             if (type == VX_DATA_TYPE_ATTACH) {
                 SetAttachment(text.c_str(), 0, 0, 0);
             } else {

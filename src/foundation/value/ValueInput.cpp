@@ -5,12 +5,15 @@
 #include <cstring>
 #include <string>
 
+#include "foundation/value/EncodedFields.h"
 #include "vxutil/decimal/TKDecimalPortable.h"
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
 #include "vxutil/gnrt/CGNDateTime.h"
 
 namespace {
+
+using vx::encoded::ClientText;
 
 constexpr long long kIntegerLimit = 2147483647;
 
@@ -40,19 +43,6 @@ bool WholeDouble(const std::string& text, double& value) {
     char* end = nullptr;
     value = std::strtod(text.c_str(), &end);
     return *end == '\0' && std::isfinite(value);
-}
-
-// Character and attachment texts carry line feeds as 0x01 bytes.
-CGNString ClientText(const char* text, bool lineFeeds) {
-    std::string bytes = text != nullptr ? text : "";
-    if (lineFeeds) {
-        for (char& c : bytes) {
-            if (c == '\x01') c = '\n';
-        }
-    }
-    CGNString client(bytes);
-    client.ClientFormat();
-    return client;
 }
 
 std::uint32_t TimeError(int option) {

@@ -1,0 +1,19 @@
+// Readers of the encoded texts of values, qualifiers and entry lists: fields that end in a
+// backslash, read from a moving position in a zero-terminated text.
+#pragma once
+
+#include "vxutil/gnrt/CGNString.h"
+
+namespace vx::encoded {
+
+// Text from the server in the client's form: with `lineFeeds` the 0x01 bytes that character
+// and attachment texts carry for line feeds become line feeds; then CGNString::ClientFormat.
+CGNString ClientText(const char* text, bool lineFeeds);
+
+// Moves past the next backslash, or to the end of the text when none follows.
+void SkipField(const char*& cursor);
+// A decimal number at the cursor, then past the next backslash. False when no digits are there.
+bool ReadLong(const char*& cursor, long& value);
+bool ReadUnsignedLong(const char*& cursor, unsigned long& value);
+
+}  // namespace vx::encoded
