@@ -13,7 +13,7 @@ vx_need_packages cmake ninja-build g++ libbenchmark-dev &&
         -DVXUTIL_BUILD_BENCH=ON -DVXUTIL_BUILD_TESTS=OFF -DVXUTIL_BUILD_TOOLS=OFF &&
     vx_build "$dir" || exit 1
 
-mapfile -t programs < <(vx_executables_in "$dir/bench")
+mapfile -t programs < <(vx_programs_in "$dir" bench)
 if [ ${#programs[@]} -eq 0 ]; then
     echo "no benchmark programs were built" >&2
     exit 1

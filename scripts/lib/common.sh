@@ -133,8 +133,14 @@ vx_stage() {
     [ "$result" = ok ]
 }
 
-# vx_executables_in <folder>: the programs a build put in that folder, one path a line, sorted.
-vx_executables_in() {
-    [ -d "$1" ] || return 0
-    find "$1" -maxdepth 1 -type f -executable | sort
+# vx_programs_in <build folder> <source folder>: the programs that the build makes for that
+# folder of the source tree, one path a line (asked of Ninja, so that programs left behind by
+# renamed targets are not picked up).
+vx_programs_in() {
+    local dir="$1" output
+    ninja -C "$dir" -t query "$2/all" 2>/dev/null |
+        sed -n '/^  input:/,/^  outputs:/s/^    //p' |
+        while read -r output; do
+            [ -f "$dir/$output" ] && [ -x "$dir/$output" ] && printf '%s\n' "$dir/$output"
+        done | sort
 }

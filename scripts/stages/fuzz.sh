@@ -7,7 +7,7 @@ VX_FUZZ_DIR="$VX_BUILD/fuzz"
 VX_FUZZ_SECONDS="${VX_FUZZ_SECONDS:-20}"
 
 # vx_fuzz_one <target program>: fuzzes for VX_FUZZ_SECONDS; on a finding shows the report and
-# how to replay the input that caused it.
+# how to replay the input that caused it (libFuzzer prints the input itself).
 vx_fuzz_one() {
     local program="$1" name
     name="$(basename "$program")"
@@ -16,21 +16,25 @@ vx_fuzz_one() {
     local artifacts="$VX_FUZZ_DIR/artifacts/$name" log="$VX_FUZZ_DIR/$name.log"
     rm -rf "$artifacts"
     mkdir -p "$corpus" "$artifacts"
-    local inputs=("$corpus")
-    [ -d "$seeds" ] && inputs+=("$seeds")
+    local inputs=("$corpus") from="no seeds"
+    if [ -d "$seeds" ]; then
+        inputs+=("$seeds")
+        from="$(find "$seeds" -type f | wc -l) seeds"
+    fi
     if "$program" -max_total_time="$VX_FUZZ_SECONDS" -timeout=10 -rss_limit_mb=2048 \
         -artifact_prefix="$artifacts/" "${inputs[@]}" >"$log" 2>&1 </dev/null; then
-        vx_note "$name: $(grep -Eo 'Done [0-9]+ runs in [0-9]+ second' "$log" | tail -n 1)s, no finding"
+        local summary
+        summary="$(grep -Eo 'Done [0-9]+ runs in [0-9]+ second' "$log" | tail -n 1)"
+        vx_note "$name: ${summary}s from $from, no finding"
         vx_count 1 0
         return 0
     fi
     vx_note "$name: FINDING"
-    tail -n 80 "$log"
+    # The report from its first line (the sanitizer's or libFuzzer's), not the fuzzing progress.
+    sed -En '/ERROR|runtime error:/,$p' "$log" | head -n 150
     local artifact
     for artifact in "$artifacts"/*; do
-        [ -f "$artifact" ] || continue
-        vx_note "input $artifact ($(stat -c %s "$artifact") bytes), replay: $program $artifact"
-        od -A d -t x1z "$artifact" | head -n 20
+        [ -f "$artifact" ] && vx_note "replay: $program $artifact"
     done
     vx_count 0 1
     return 1
@@ -44,7 +48,7 @@ stage_fuzz() {
         -DVXUTIL_BUILD_TESTS=OFF -DVXUTIL_BUILD_TOOLS=OFF &&
         vx_build "$VX_FUZZ_DIR" fuzz/all || return 1
     local programs status=0 program
-    mapfile -t programs < <(vx_executables_in "$VX_FUZZ_DIR/fuzz")
+    mapfile -t programs < <(vx_programs_in "$VX_FUZZ_DIR" fuzz)
     if [ ${#programs[@]} -eq 0 ]; then
         vx_note "no fuzz targets are built yet"
         return 0
