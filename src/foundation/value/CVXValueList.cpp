@@ -3,29 +3,19 @@
 #include <cstdlib>
 #include <new>
 
+#include "foundation/GNListElements.h"
 #include "vxutil/foundation/DefinitionText.h"
 
 namespace {
 
-// Adds or inserts a new copy of `element`; the copy is destroyed when the list refuses it.
-template <class Element>
-bool Place(CGNList& list, int index, const Element& element) {
-    Element* copy = new (std::nothrow) Element(element);
-    if (copy == nullptr) return false;
-    if (list.InsertItem(index, copy)) return true;
-    delete copy;
-    return false;
-}
+using vx::elements::At;
+using vx::elements::DestroyAll;
+using vx::elements::InsertCopy;
 
-template <class Element>
-void DestroyAll(CGNList& list) {
-    for (int i = 0; i < list.GetCount(); ++i)
-        delete static_cast<Element*>(list.GetItem(i));
-}
-
+// Removes the element at `index` and destroys it.
 template <class Element>
 bool Remove(CGNList& list, int index) {
-    Element* element = static_cast<Element*>(list.GetItem(index));
+    Element* element = At<Element>(list, index);
     if (!list.DeleteItem(index)) return false;
     delete element;
     return true;
@@ -55,11 +45,11 @@ void CVXValueList::Free() {
 }
 
 bool CVXValueList::AddValue(const CVXValueStruct& value) {
-    return Place(*this, GetCount(), value);
+    return InsertCopy(*this, GetCount(), value);
 }
 
 bool CVXValueList::InsertValue(int index, const CVXValueStruct& value) {
-    return Place(*this, index, value);
+    return InsertCopy(*this, index, value);
 }
 
 bool CVXValueList::DeleteValue(int index) {
@@ -67,7 +57,7 @@ bool CVXValueList::DeleteValue(int index) {
 }
 
 CVXValueStruct* CVXValueList::GetValue(int index) const {
-    return static_cast<CVXValueStruct*>(GetItem(index));
+    return At<CVXValueStruct>(*this, index);
 }
 
 void CVXValueList::ToText(CGNString& out) const {
@@ -147,11 +137,11 @@ void CVXValueListList::Free() {
 }
 
 bool CVXValueListList::AddList(const CVXValueList& list) {
-    return Place(*this, GetCount(), list);
+    return InsertCopy(*this, GetCount(), list);
 }
 
 bool CVXValueListList::InsertList(int index, const CVXValueList& list) {
-    return Place(*this, index, list);
+    return InsertCopy(*this, index, list);
 }
 
 bool CVXValueListList::DeleteList(int index) {
@@ -159,7 +149,7 @@ bool CVXValueListList::DeleteList(int index) {
 }
 
 CVXValueList* CVXValueListList::GetList(int index) const {
-    return static_cast<CVXValueList*>(GetItem(index));
+    return At<CVXValueList>(*this, index);
 }
 
 bool CVXValueListList::ExportTo(VXValueListList* record) const {
