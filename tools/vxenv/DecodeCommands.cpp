@@ -111,6 +111,18 @@ std::span<const Command> DecodeCommands() {
          "or position they form",
          Coords,
          {}},
+        {"value",
+         "TEXT",
+         "an encoded value: its type, display, literal and encoded texts",
+         RunDecodeValue,
+         {}},
+        {"qualifier", "TEXT", "an encoded qualifier's display text", RunDecodeQualifier, {}},
+        {"fields",
+         "TEXT",
+         "an encoded entry-list field list: each column's field, width and "
+         "separator",
+         RunDecodeFields,
+         {}},
     };
     return table;
 }

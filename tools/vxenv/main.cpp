@@ -65,7 +65,7 @@ std::span<const Command> TopLevelCommands() {
         {"paths", "macro|report [HOMEFOLDER]", "folders searched for macros and reports", nullptr,
          PathsCommands()},
         {"servers", "list|set|attrs ...", "the servers of a user", nullptr, ServersCommands()},
-        {"decode", "bytes|coords TEXT", "show an encoded byte list or coordinate list", nullptr,
+        {"decode", "bytes|coords|value|qualifier|fields TEXT", "show an encoded text", nullptr,
          DecodeCommands()},
         {"whoami", "", "the logon name and security identifier of the current user", RunWhoami, {}},
         {"sysinfo", "", "the system information of the about box", RunSysinfo, {}},
@@ -74,6 +74,9 @@ std::span<const Command> TopLevelCommands() {
         {"hex", "TEXT", "the number a list cell reads from TEXT (0x for hexadecimal)", RunHex, {}},
         {"decimal", "show|calc ...", "decimal text as displayed, and decimal arithmetic", nullptr,
          DecimalCommands()},
+        {"encode", "value TYPE TEXT", "the encoded text of a value", nullptr, EncodeCommands()},
+        {"qual", "eval QUALIFIER [FIELDID=VALUE ...]", "evaluate a qualifier against field values",
+         nullptr, QualCommands()},
     };
     return table;
 }
