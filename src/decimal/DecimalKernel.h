@@ -8,7 +8,8 @@
 // integral part fits.
 //
 // The kernel is written once over its 128-bit type U: the compiler's unsigned __int128 where
-// there is one, Portable128 elsewhere. Both must give identical results.
+// there is one, Portable128 elsewhere (or when VXUTIL_DECIMAL_PORTABLE is defined, to try the
+// portable path on a compiler that has both). Both must give identical results.
 #pragma once
 
 #include <algorithm>
