@@ -37,8 +37,10 @@ public:
     TerminalPrompt() : m_previous(RUserPrompt::SetCurrent(this)) {}
     ~TerminalPrompt() override { RUserPrompt::SetCurrent(m_previous); }
 
-    int Show(vx::WindowHandle parent, const char* text, unsigned style) override {
-        if (!StandardInputIsTerminal()) return RDefaultUserPrompt::Show(parent, text, style);
+    int Show(vx::WindowHandle parent, const char* text, const char* caption,
+             unsigned style) override {
+        if (!StandardInputIsTerminal())
+            return RDefaultUserPrompt::Show(parent, text, caption, style);
         const std::vector<vx::PromptButton> buttons = Buttons(style);
         std::string choices;
         for (const vx::PromptButton& button : buttons) {

@@ -49,9 +49,11 @@ public:
     RUserPrompt& operator=(const RUserPrompt&) = delete;
     virtual ~RUserPrompt();
 
-    // Shows `text` over `parent` with the buttons, icon and default button of the message-box
-    // `style` and returns the id of the button chosen.
-    virtual int Show(vx::WindowHandle parent, const char* text, unsigned style) = 0;
+    // Shows `text` over `parent` under `caption` (null: the client tool's name) with the
+    // buttons, icon and default button of the message-box `style` and returns the id of the
+    // button chosen.
+    virtual int Show(vx::WindowHandle parent, const char* text, const char* caption,
+                     unsigned style) = 0;
 
     // The installed prompt, else the platform's own.
     static RUserPrompt& Current();
@@ -70,5 +72,6 @@ public:
 // standard error so that nothing a user would have been told is lost.
 class VXUTIL_API RDefaultUserPrompt : public RUserPrompt {
 public:
-    int Show(vx::WindowHandle parent, const char* text, unsigned style) override;
+    int Show(vx::WindowHandle parent, const char* text, const char* caption,
+             unsigned style) override;
 };

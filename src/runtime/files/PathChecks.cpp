@@ -52,9 +52,9 @@ int RValidatePathWithCreate(const CGNString& path, vx::WindowHandle parent) {
     if (RIsValidDirectory(path)) return 1;
     RUserPrompt& prompt = RUserPrompt::Current();
     const CGNString question = vx::LoadMessageText(vx::kStrFolderMissingCreate, {path.view()});
-    if (prompt.Show(parent, question.c_str(), kAskCreateStyle) != vx::kIdYes) return 0;
+    if (prompt.Show(parent, question.c_str(), nullptr, kAskCreateStyle) != vx::kIdYes) return 0;
     if (RCreateDirectory(path, nullptr)) return 1;
     const CGNString error = vx::LoadMessageText(vx::kStrFolderCreateFailed, {path.view()});
-    prompt.Show(parent, error.c_str(), kCreateFailedStyle);
+    prompt.Show(parent, error.c_str(), nullptr, kCreateFailedStyle);
     return 0;
 }

@@ -11,12 +11,13 @@ namespace vx {
 #ifdef _WIN32
 namespace {
 
-// Captioned with the client tool's name, as the framework's message boxes are.
+// Captioned, unless the caller names a caption, with the client tool's name, as the
+// framework's message boxes are.
 class MessageBoxPrompt : public RUserPrompt {
 public:
-    int Show(WindowHandle parent, const char* text, unsigned style) override {
+    int Show(WindowHandle parent, const char* text, const char* caption, unsigned style) override {
         RApplication* app = RApplication::Current();
-        const char* caption = app != nullptr ? app->GetAppName().c_str() : "vxutil";
+        if (caption == nullptr) caption = app != nullptr ? app->GetAppName().c_str() : "vxutil";
         return ::MessageBoxA(static_cast<HWND>(parent), text != nullptr ? text : "", caption,
                              style);
     }

@@ -61,11 +61,13 @@ int RUserPrompt::DefaultAnswer(unsigned style) {
     return index < buttons.size() ? buttons[index].id : buttons.front().id;
 }
 
-int RDefaultUserPrompt::Show(vx::WindowHandle, const char* text, unsigned style) {
+int RDefaultUserPrompt::Show(vx::WindowHandle, const char* text, const char* caption,
+                             unsigned style) {
     const int answer = DefaultAnswer(style);
     const char* label = "";
     for (const vx::PromptButton& button : Buttons(style))
         if (button.id == answer) label = button.label;
+    if (caption != nullptr) std::fprintf(stderr, "%s: ", caption);
     std::fprintf(stderr, "%s\n[answered: %s]\n", text != nullptr ? text : "", label);
     return answer;
 }

@@ -28,7 +28,7 @@ public:
     }
     ~ScriptedPrompt() override { RUserPrompt::SetCurrent(m_previous); }
 
-    int Show(WindowHandle, const char* text, unsigned style) override {
+    int Show(WindowHandle, const char* text, const char*, unsigned style) override {
         shown.push_back({text, style});
         if (m_answers.empty()) return DefaultAnswer(style);
         const int answer = m_answers.front();

@@ -73,7 +73,7 @@ TEST(UserPromptTest, WindowsAsksWithAMessageBox) {
             ::Sleep(10);
         }
     });
-    const int answer = RUserPrompt::Current().Show(nullptr, "Create the folder?", 0x134);
+    const int answer = RUserPrompt::Current().Show(nullptr, "Create the folder?", nullptr, 0x134);
     clicker.join();
     RApplication::SetCurrent(previous);
     EXPECT_EQ(answer, vx::kIdYes);
