@@ -6,21 +6,26 @@
 
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/gnrt/FilePath.h"
 #include "vxutil/gnrt/MultiByte.h"
 #include "vxutil/login/OSUserName.h"
-#include "vxutil/platform/ProfileFile.h"
 
 namespace {
 
-using vx::test::AppEnvTest;
-
-class LoginTest : public AppEnvTest {
+class LoginTest : public vx::test::AppEnvTest {
 protected:
     LoginTest() {
         SetReg("USER1", "ann");
         SetReg("VXPATH1", annFolder);
         SetReg("VXPATH0", defaultFolder);
+    }
+
+    // "<result> <user>/<password>" as the operations leave the buffers.
+    std::string Last() { return Got(CAppEnv::GetLastUserAndPassword(user, password)); }
+    std::string ReadFrom(const std::string& folder) {
+        return Got(CAppEnv::GetUserAndPassword(folder.c_str(), user, password));
+    }
+    std::string Got(int result) const {
+        return std::to_string(result) + " " + user + "/" + password;
     }
 
     const std::string annFolder = Folder("ann");
@@ -29,61 +34,44 @@ protected:
     char password[vx::kNameBufferSize] = "untouched";
 };
 
-TEST_F(LoginTest, NobodyRememberedOrNoBufferGivesZero) {
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 0);
+TEST_F(LoginTest, LastUserComesFromTheUserFileOrElseFromTheSlot) {
+    EXPECT_EQ(Last(), "0 untouched/untouched");
     SetRegNumber("LastUserLoggedIn", -1);
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 0);
-    EXPECT_STREQ(user, "untouched");
-    EXPECT_STREQ(password, "untouched");
+    EXPECT_EQ(Last(), "0 untouched/untouched");
 
     SetRegNumber("LastUserLoggedIn", 1);
+    EXPECT_EQ(Last(), "1 ann/");  // no file at all: the slot names the user
+    Remember(annFolder, "Password", "s3cret");
+    EXPECT_EQ(Last(), "1 ann/s3cret");
+    Remember(annFolder, "User", "ann.smith");
+    EXPECT_EQ(Last(), "1 ann.smith/s3cret");
+    // A slot that has neither a file name nor a registry name gives nothing.
+    SetRegNumber("LastUserLoggedIn", 2);
+    EXPECT_EQ(Last()[0], '0');
+
     EXPECT_EQ(CAppEnv::GetLastUserAndPassword(nullptr, password), 0);
     EXPECT_EQ(CAppEnv::GetUserAndPassword(annFolder.c_str(), user, nullptr), 0);
     EXPECT_EQ(CAppEnv::GetLastOSUser(nullptr), 0);
     EXPECT_EQ(CAppEnv::SetLastUserAndPassword(nullptr, "pw"), 0);
 }
 
-TEST_F(LoginTest, LastUserComesFromTheUserFileOrElseFromTheSlot) {
-    SetRegNumber("LastUserLoggedIn", 1);
-    // No file at all: the slot names the user, the password is empty.
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 1);
-    EXPECT_STREQ(user, "ann");
-    EXPECT_STREQ(password, "");
-
-    Remember(annFolder, "Password", "s3cret");
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 1);
-    EXPECT_STREQ(user, "ann");
-    EXPECT_STREQ(password, "s3cret");
-
-    Remember(annFolder, "User", "ann.smith");
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 1);
-    EXPECT_STREQ(user, "ann.smith");
-
-    // A slot that has neither a file name nor a registry name gives nothing.
-    SetRegNumber("LastUserLoggedIn", 2);
-    EXPECT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 0);
-}
-
 TEST_F(LoginTest, RememberingWritesBothFilesAndLeavesTheLastUserAlone) {
+    const std::string osUser = ClientGetOSUserName().str();
+    ASSERT_FALSE(osUser.empty());
     ASSERT_EQ(CAppEnv::SetLastUserAndPassword("ann", "pw"), 1);
-    EXPECT_EQ(Remembered(annFolder, "User"), "ann");
-    EXPECT_EQ(Remembered(annFolder, "Password"), "pw");
-    EXPECT_EQ(Remembered(defaultFolder, "OSUser"), ClientGetOSUserName().str());
+    EXPECT_EQ(Remembered(annFolder, "User") + "/" + Remembered(annFolder, "Password"), "ann/pw");
+    EXPECT_EQ(Remembered(defaultFolder, "OSUser"), osUser);
     EXPECT_EQ(Remembered(defaultFolder, "User"), "<absent>");
     EXPECT_EQ(Reg("LastUserLoggedIn"), "<absent>");
-
-    char osUser[vx::kNameBufferSize] = {};
-    EXPECT_EQ(CAppEnv::GetLastOSUser(osUser), ClientGetOSUserName().IsEmpty() ? 0 : 1);
-
-    EXPECT_EQ(CAppEnv::GetUserAndPassword(annFolder.c_str(), user, password), 1);
-    EXPECT_STREQ(user, "ann");
-    EXPECT_STREQ(password, "pw");
+    char osUserRead[vx::kNameBufferSize] = {};
+    EXPECT_EQ(CAppEnv::GetLastOSUser(osUserRead), 1);
+    EXPECT_EQ(ReadFrom(annFolder), "1 ann/pw");
 }
 
 TEST_F(LoginTest, UnknownUsersUseTheDefaultFolderWhichMustBeSet) {
     ASSERT_EQ(CAppEnv::SetLastUserAndPassword("zed", "pw"), 1);
-    EXPECT_EQ(Remembered(defaultFolder, "User"), "zed");
-    EXPECT_EQ(Remembered(defaultFolder, "Password"), "pw");
+    EXPECT_EQ(Remembered(defaultFolder, "User") + "/" + Remembered(defaultFolder, "Password"),
+              "zed/pw");
 
     DeleteReg("VXPATH0");
     EXPECT_EQ(CAppEnv::SetLastUserAndPassword("ann", "pw"), 0);
@@ -91,57 +79,40 @@ TEST_F(LoginTest, UnknownUsersUseTheDefaultFolderWhichMustBeSet) {
     char osUser[vx::kNameBufferSize] = "untouched";
     EXPECT_EQ(CAppEnv::GetLastOSUser(osUser), 0);
     EXPECT_STREQ(osUser, "untouched");
-
     // Without the user name the password is not read.
     Remember(annFolder, "Password", "pw");
-    EXPECT_EQ(CAppEnv::GetUserAndPassword(annFolder.c_str(), user, password), 0);
-    EXPECT_STREQ(password, "untouched");
+    EXPECT_EQ(ReadFrom(annFolder), "0 /untouched");
 }
 
 TEST_F(LoginTest, LongValuesComeBackCutToThirtyBytesAtACharacterBoundary) {
-    const std::string e = "\xc3\xa9";  // U+00E9, two bytes in UTF-8
-    struct Case {
-        std::string text;
-        std::size_t utf8Bytes;  // bytes that come back where text is UTF-8
-    };
-    const Case cases[] = {
-        {std::string(29, 'a'), 29},     {std::string(30, 'a'), 30},
-        {std::string(31, 'a'), 30},     {std::string(40, 'a'), 30},
-        {std::string(27, 'a') + e, 29}, {std::string(28, 'a') + e, 30},
-        {std::string(29, 'a') + e, 29},  // the character would end at byte 31
-        {std::string(39, 'a') + e, 30},
-    };
+    // The second text's last character (U+00E9, two bytes in UTF-8) would end at byte 31.
+    const std::string texts[] = {std::string(31, 'a'), std::string(29, 'a') + "\xc3\xa9"};
+    const std::size_t utf8Bytes[] = {30, 29};
     SetRegNumber("LastUserLoggedIn", 1);
-    for (const Case& c : cases) {
+    for (int i = 0; i < 2; ++i) {
+        const std::string& text = texts[i];
 #ifdef _WIN32
         // The ANSI code page of the test run decides where characters end.
-        const std::string expected =
-            c.text.substr(0, vx::mb::CutLength(c.text.c_str(), c.text.size(), 30));
+        const std::string cut = text.substr(0, vx::mb::CutLength(text.c_str(), text.size(), 30));
 #else
-        const std::string expected = c.text.substr(0, c.utf8Bytes);
+        const std::string cut = text.substr(0, utf8Bytes[i]);
 #endif
-        Remember(annFolder, "User", c.text);
-        Remember(annFolder, "Password", c.text);
+        Remember(annFolder, "User", text);
+        Remember(annFolder, "Password", text);
         std::memset(user, 'x', sizeof user);
         std::memset(password, 'x', sizeof password);
-        ASSERT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 1);
-        EXPECT_EQ(user, expected) << c.text;
-        EXPECT_EQ(password, expected) << c.text;
-        ASSERT_EQ(CAppEnv::GetUserAndPassword(annFolder.c_str(), user, password), 1);
-        EXPECT_EQ(user, expected) << c.text;
-        EXPECT_EQ(password, expected) << c.text;
-
+        EXPECT_EQ(Last(), "1 " + cut + "/" + cut);
         // A name from the registry slot is cut the same way.
         Remember(annFolder, "User", "");
-        SetReg("USER1", c.text);
-        ASSERT_EQ(CAppEnv::GetLastUserAndPassword(user, password), 1);
-        EXPECT_EQ(user, expected) << c.text;
+        SetReg("USER1", text);
+        std::memset(user, 'x', sizeof user);
+        EXPECT_EQ(Last(), "1 " + cut + "/" + cut);
     }
 }
 
 TEST_F(LoginTest, PromptForLoginTurnsTheFolderIntoItsSettingsFile) {
-    ASSERT_TRUE(vx::ProfileWriteString("Desktop", "PromptForLogin", "1",
-                                       MakeFilePath(annFolder.c_str(), "vx.ini").c_str()));
+    ASSERT_TRUE(
+        vx::ProfileWriteString("Desktop", "PromptForLogin", "1", SettingsFile(annFolder).c_str()));
     const std::string expected = annFolder + vx::kPathSeparator + "vx.ini";
     for (const std::string& folder : {annFolder, annFolder + vx::kPathSeparator}) {
         CGNString argument = folder.c_str();
@@ -156,12 +127,6 @@ TEST_F(LoginTest, PromptForLoginTurnsTheFolderIntoItsSettingsFile) {
     CGNString empty;
     CAppEnv::PromptForLogin(empty);
     EXPECT_EQ(empty, (std::string(1, vx::kPathSeparator) + "vx.ini").c_str());
-}
-
-TEST(OSUserNameTest, IsTheLogonNameOfThisProcess) {
-    const CGNString name = ClientGetOSUserName();
-    EXPECT_FALSE(name.IsEmpty());
-    EXPECT_LE(name.GetLength(), 255u);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Preferences in the application profile, the language-library switch and the macro paths.
-#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -13,80 +12,67 @@ namespace {
 
 using PreferencesTest = vx::test::AppEnvTest;
 
-unsigned Threshold(bool level) {
-    unsigned levelThreshold = 0, itemsThreshold = 0;
-    CAppEnv::GetMenuThresholds(levelThreshold, itemsThreshold);
-    return level ? levelThreshold : itemsThreshold;
+// The profile entries of the preferences, in the order in which Read() gives them.
+// clang-format off
+const char* const kEntries[][2] = {
+    {"Menus", "Style"}, {"Menus", "ItemsThreshold"}, {"Menus", "LevelThreshold"},
+    {"Menus", "OpenListAtStart"}, {"Move", "StepSize"}, {"Query", "MaxInQuery"},
+    {"Query", "LimitItemsReturn"}, {"Submit", "CloseAfterSubmit"},
+    {"Network", "RPCTimeout Normal"}, {"Network", "RPCTimeout Long"},
+    {"Network", "RPCTimeout Extra Long"}, {"User", "ShowLangDLLNotFound"}};
+// clang-format on
+
+template <typename... Values>
+std::string Joined(Values... values) {
+    std::string text;
+    ((text += (text.empty() ? "" : " ") + std::to_string(+values)), ...);
+    return text;
 }
 
-// Every preference getter with its default, as the profile says "Section/Key".
-struct Preference {
-    const char* entry;
-    std::function<unsigned long()> get;
-    unsigned long def;
-};
-const Preference kPreferences[] = {
-    {"Menus/Style", CAppEnv::GetMenuDisplayMethod, 1},
-    {"Menus/ItemsThreshold", [] { return Threshold(false); }, 200},
-    {"Menus/LevelThreshold", [] { return Threshold(true); }, 4},
-    {"Menus/OpenListAtStart", [] { return CAppEnv::ExpandMenuItemsAtStartup(); }, 0},
-    {"Move/StepSize", CAppEnv::GetArrowKeyStepSize, 10},
-    {"Query/MaxInQuery", CAppEnv::GetMaxInQuery, 1000},
-    {"Query/LimitItemsReturn", [] { return CAppEnv::GetIsLimitedQuery(); }, 1},
-    {"Submit/CloseAfterSubmit", CAppEnv::GetCloseAfterSubmitAction, 0},
-    {"Network/RPCTimeout Normal", CAppEnv::GetRPCTimeoutNormal, 0},
-    {"Network/RPCTimeout Long", CAppEnv::GetRPCTimeoutLong, 0},
-    {"Network/RPCTimeout Extra Long", CAppEnv::GetRPCTimeoutXLong, 0},
-    {"User/ShowLangDLLNotFound", CAppEnv::GetShouldShowLangDLLNotFound, 1},
-};
+// Every preference as its getter gives it.
+std::string Read() {
+    unsigned level = 0, items = 0;
+    CAppEnv::GetMenuThresholds(level, items);
+    return Joined(CAppEnv::GetMenuDisplayMethod(), items, level,
+                  CAppEnv::ExpandMenuItemsAtStartup(), CAppEnv::GetArrowKeyStepSize(),
+                  CAppEnv::GetMaxInQuery(), CAppEnv::GetIsLimitedQuery(),
+                  CAppEnv::GetCloseAfterSubmitAction(), CAppEnv::GetRPCTimeoutNormal(),
+                  CAppEnv::GetRPCTimeoutLong(), CAppEnv::GetRPCTimeoutXLong(),
+                  CAppEnv::GetShouldShowLangDLLNotFound());
+}
+
+constexpr const char* kDefaults = "1 200 4 0 10 1000 1 0 0 0 0 1";
 
 TEST_F(PreferencesTest, EachGetterReadsItsEntryWithItsDefault) {
-    for (const Preference& p : kPreferences)
-        EXPECT_EQ(p.get(), p.def) << p.entry;
-    for (const Preference& p : kPreferences) {
-        const std::string entry = p.entry;
-        const auto slash = entry.find('/');
-        app.WriteProfileInt(entry.substr(0, slash).c_str(), entry.substr(slash + 1).c_str(), 0);
-        EXPECT_EQ(p.get(), 0u) << p.entry;
-    }
-    // Without an application object every getter gives its default.
-    RApplication::SetCurrent(nullptr);
-    for (const Preference& p : kPreferences)
-        EXPECT_EQ(p.get(), p.def) << p.entry;
-    CAppEnv::SetMaxInQuery(5);
-    RApplication::SetCurrent(&app);
-    EXPECT_EQ(CAppEnv::GetMaxInQuery(), 0);
-}
-
-TEST_F(PreferencesTest, SettersStoreWhatGettersReadBack) {
-    struct Case {
-        std::function<void()> set;
-        const char* section;
-        const char* key;
-        unsigned stored;
-    };
-    const Case cases[] = {
-        {[] { CAppEnv::SetMenuDisplayMethod(3); }, "Menus", "Style", 3},
-        {[] { CAppEnv::SetArrowKeyStepSize(-4); }, "Move", "StepSize", static_cast<unsigned>(-4)},
-        {[] { CAppEnv::SetMaxInQuery(250); }, "Query", "MaxInQuery", 250},
-        // Flags are stored as 0 or 1 whatever nonzero value they are given.
-        {[] { CAppEnv::SetIsLimitedQuery(7); }, "Query", "LimitItemsReturn", 1},
-        {[] { CAppEnv::ExpandMenuItemsAtStartup(200); }, "Menus", "OpenListAtStart", 1},
-        // The level threshold is the first argument, but the items threshold is written first.
-        {[] { CAppEnv::SetMenuThresholds(3, 150); }, "Menus", "LevelThreshold", 3},
-        {[] {}, "Menus", "ItemsThreshold", 150},
-    };
-    for (const Case& c : cases) {
-        c.set();
-        EXPECT_EQ(app.GetProfileInt(c.section, c.key, 12345), c.stored) << c.key;
-    }
-    EXPECT_EQ(CAppEnv::GetArrowKeyStepSize(), -4);
-    EXPECT_EQ(CAppEnv::GetIsLimitedQuery(), 1);
-    EXPECT_EQ(Threshold(true), 3u);
-    EXPECT_EQ(Threshold(false), 150u);
+    EXPECT_EQ(Read(), kDefaults);
+    int value = 20;
+    for (const auto& [section, key] : kEntries)
+        app.WriteProfileInt(section, key, value++);
+    EXPECT_EQ(Read(), "20 21 22 23 24 25 26 27 28 29 30 31");
     // A flag read is the low byte of the stored number.
     app.WriteProfileInt("Query", "LimitItemsReturn", 0x102);
     EXPECT_EQ(CAppEnv::GetIsLimitedQuery(), 2);
+
+    // Without an application object reads give the defaults and writes do nothing.
+    RApplication::SetCurrent(nullptr);
+    EXPECT_EQ(Read(), kDefaults);
+    CAppEnv::SetMaxInQuery(5);
+    RApplication::SetCurrent(&app);
+    EXPECT_EQ(CAppEnv::GetMaxInQuery(), 25);
+}
+
+TEST_F(PreferencesTest, SettersStoreTheirEntry) {
+    CAppEnv::SetMenuDisplayMethod(3);
+    CAppEnv::SetMenuThresholds(3, 150);  // the level threshold is the first argument
+    CAppEnv::SetArrowKeyStepSize(-4);
+    CAppEnv::SetMaxInQuery(250);
+    // Flags are stored as 0 or 1 whatever nonzero value they are given.
+    CAppEnv::SetIsLimitedQuery(7);
+    CAppEnv::ExpandMenuItemsAtStartup(200);
+    std::string stored;
+    for (const auto& [section, key] : kEntries)
+        stored += std::to_string(static_cast<int>(app.GetProfileInt(section, key, -9))) + " ";
+    EXPECT_EQ(stored, "3 150 3 1 -4 250 1 -9 -9 -9 -9 -9 ");
 }
 
 TEST_F(PreferencesTest, LanguageLibraryWarningPrefersTheRegistry) {

@@ -6,7 +6,6 @@
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/foundation/CVXServerNameList.h"
-#include "vxutil/gnrt/FilePath.h"
 
 namespace {
 
@@ -15,7 +14,6 @@ protected:
     ServersTest() { std::filesystem::create_directories(folder); }
 
     std::string File() const { return MakeFilePath(folder.c_str(), "VX").str(); }
-    void WriteFile(const std::string& text) const { vx::test::WriteBytes(File(), text); }
 
     // The names listed after a name that was in the list before, joined by blanks.
     std::string List(bool all, bool workflow, int expected = 1) const {
@@ -48,10 +46,11 @@ protected:
 };
 
 TEST_F(ServersTest, ListingFiltersByKindAndDisabledMark) {
-    WriteFile(
+    vx::test::WriteBytes(
+        File(),
         "alpha VX;NT;2000;390600;2001\n#beta VX;;;;\ngamma ;NT;;;\ndelta\nold VX\r\n"
         "tab\tname VX\n\nalpha VX\n" +
-        std::string(70, 's') + " VX\nfar ;;;;12345678901234567890NT\nnotype  NT\n");
+            std::string(70, 's') + " VX\nfar ;;;;12345678901234567890NT\nnotype  NT\n");
     const std::string longName(64, 's');
     EXPECT_EQ(List(true, true), "alpha beta gamma delta old alpha " + longName + " far notype");
     EXPECT_EQ(List(true, false), List(true, true));
@@ -81,12 +80,22 @@ TEST_F(ServersTest, RecordsAreWrittenAsFullLinesAndReadBack) {
     EXPECT_EQ(Attributes("beta"), "1: 110 //");
     EXPECT_EQ(Attributes("gamma"), "1: 001 /390680/");
     EXPECT_EQ(CAppEnv::SetServerList("", ServerTypeList{}), 0);
+
+    // A plain name list replaces the whole file, disabled and notifier entries included.
+    CVXServerNameList list;
+    list.AddServer(CVXServerNameType("one"));
+    list.AddServer(CVXServerNameType("two"));
+    ASSERT_EQ(CAppEnv::SetVXServerList(folder.c_str(), list), 1);
+    EXPECT_EQ(List(true, true), "one two");
+    EXPECT_EQ(List(false, false), "");
+    EXPECT_EQ(CAppEnv::SetVXServerList("", list), 0);
 }
 
 TEST_F(ServersTest, AttributesMatchTheWholeFirstWordOfATrimmedLine) {
-    WriteFile(
-        "alphabet VX;NT;1;2;3\n  #   alpha   NT  \nlegacy VX NT\nshort VX;NT;10;20\ntwo "
-        "VX;NT;10\n");
+    vx::test::WriteBytes(
+        File(),
+        "alphabet VX;NT;1;2;3\n  #   alpha   NT  \nlegacy VX NT\nshort VX;NT;10;20\n"
+        "two VX;NT;10\n");
     EXPECT_EQ(Attributes("alpha"), "1: 101 //");
     // Lines with tags only, as older clients wrote them, leave the ports empty.
     EXPECT_EQ(Attributes("legacy"), "1: 011 //");
@@ -96,17 +105,6 @@ TEST_F(ServersTest, AttributesMatchTheWholeFirstWordOfATrimmedLine) {
         EXPECT_EQ(Attributes(absent), "0: 000 //");
     std::filesystem::remove(File());
     EXPECT_EQ(Attributes("alpha"), "0: 000 //");
-}
-
-TEST_F(ServersTest, NameListReplacesTheWholeFile) {
-    WriteFile("#off VX;;;;\nnotify ;NT;;;\n");
-    CVXServerNameList list;
-    list.AddServer(CVXServerNameType("one"));
-    list.AddServer(CVXServerNameType("two"));
-    ASSERT_EQ(CAppEnv::SetVXServerList(folder.c_str(), list), 1);
-    EXPECT_EQ(List(true, true), "one two");
-    EXPECT_EQ(List(false, false), "");
-    EXPECT_EQ(CAppEnv::SetVXServerList("", list), 0);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/platform/LegacyProfile.h"
 
 namespace {
 
@@ -20,9 +19,9 @@ protected:
         for (int n = 1; words >> word; ++n) {
             const auto equals = word.find('=');
             SetReg("USER" + std::to_string(n), word.substr(0, equals));
-            if (equals == std::string::npos) SetReg("VXPATH" + std::to_string(n), "/h/" + word);
-            if (equals != std::string::npos && equals + 1 < word.size())
-                SetReg("VXPATH" + std::to_string(n), word.substr(equals + 1));
+            const std::string folder =
+                equals == std::string::npos ? "/h/" + word : word.substr(equals + 1);
+            if (!folder.empty()) SetReg("VXPATH" + std::to_string(n), folder);
         }
         if (last != "<absent>") SetRegNumber("LastUserLoggedIn", std::stoi(last));
     }
@@ -37,10 +36,8 @@ protected:
                 EXPECT_EQ(folder, "<absent>") << "left behind in slot " << n;
                 return slots;
             }
-            if (!slots.empty()) slots += ' ';
-            slots += name;
-            if (folder == "<absent>") slots += "=";
-            if (folder != "<absent>" && folder != "/h/" + name) slots += "=" + folder;
+            slots += (n > 1 ? " " : "") + name;
+            if (folder != "/h/" + name) slots += "=" + (folder == "<absent>" ? "" : folder);
         }
     }
 
@@ -51,8 +48,12 @@ protected:
         return names.Join(' ').str() + "|" + folders.Join(' ').str();
     }
 
-    static void Legacy(const char* key, const char* value) {
-        vx::LegacyProfileWriteString("VXUser", key, value);
+    // "<slot> <folder>" from GetLastUserAndPath.
+    static std::string LastUser() {
+        unsigned int slot = 7;
+        char folder[vx::kHomeFolderBufferSize] = "stale";
+        CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
+        return std::to_string(static_cast<int>(slot)) + " " + folder;
     }
 };
 
@@ -160,20 +161,11 @@ TEST_F(UsersTest, HomeFoldersFallBackToTheDefaultWhichMigratesFromLegacy) {
 }
 
 TEST_F(UsersTest, LastUserAndPath) {
-    unsigned int slot = 7;
-    char folder[vx::kHomeFolderBufferSize] = "stale";
-    CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-    EXPECT_EQ(slot, 0xFFFFFFFFu);
-    EXPECT_STREQ(folder, "");
-
+    EXPECT_EQ(LastUser(), "-1 ");
     Seed("ann bob=", "1");
-    CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-    EXPECT_EQ(slot, 1u);
-    EXPECT_STREQ(folder, "/h/ann");
+    EXPECT_EQ(LastUser(), "1 /h/ann");
     SetRegNumber("LastUserLoggedIn", 2);
-    CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-    EXPECT_EQ(slot, 2u);
-    EXPECT_STREQ(folder, "");
+    EXPECT_EQ(LastUser(), "2 ");
     CAppEnv::GetLastUserAndPath(nullptr, nullptr, 0);
 }
 
@@ -182,11 +174,7 @@ TEST_F(UsersTest, LastUserOfAnOlderClientIsTakenOverWithItsUsers) {
     Legacy("USER2", "old2");
     Legacy("Vxpath2", "/legacy/2");
     Legacy("LastUserLoggedIn", "2");
-    unsigned int slot = 0;
-    char folder[vx::kHomeFolderBufferSize] = {};
-    CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-    EXPECT_EQ(slot, 2u);
-    EXPECT_STREQ(folder, "/legacy/2");
+    EXPECT_EQ(LastUser(), "2 /legacy/2");
     EXPECT_EQ(Reg("LastUserLoggedIn"), "2");
     EXPECT_EQ(StoredSlots(), "old1= old2=/legacy/2");
 }
