@@ -20,23 +20,27 @@ TEST(UserPromptTest, DefaultAnswerIsTheButtonTheStyleNames) {
         int answer;
         std::size_t buttons;
     } cases[] = {
-        {0x0, vx::kIdOk, 1},
-        {0x10, vx::kIdOk, 1},
+        {0x0, vx::kIdOk, 1},       {0x101, vx::kIdCancel, 2},
+        {0x202, vx::kIdIgnore, 3}, {0x203, vx::kIdCancel, 3},
         {0x134, vx::kIdNo, 2},  // Yes/No, exclamation, second button
-        {0x4, vx::kIdYes, 2},
-        {0x1, vx::kIdOk, 2},
-        {0x101, vx::kIdCancel, 2},
+        {0x105, vx::kIdCancel, 2}, {0x206, vx::kIdContinue, 3},
         {0x301, vx::kIdOk, 2},  // names a fourth button the style has not: the first
-        {0x203, vx::kIdCancel, 3},
-        {0x102, vx::kIdRetry, 3},
-        {0x5, vx::kIdRetry, 2},
-        {0x206, vx::kIdContinue, 3},
-        {0xF, vx::kIdOk, 1},  // unknown buttons: OK
+        {0xF, vx::kIdOk, 1},    // unknown buttons: OK
     };
     for (const Case& c : cases) {
         EXPECT_EQ(RUserPrompt::DefaultAnswer(c.style), c.answer) << std::hex << c.style;
         EXPECT_EQ(RUserPrompt::Buttons(c.style).size(), c.buttons) << std::hex << c.style;
     }
+}
+
+// Hosts without a message box answer with the default button, and still tell what was asked.
+TEST(UserPromptTest, DefaultPromptAnswersAndWritesTheQuestionToStandardError) {
+    RDefaultUserPrompt prompt;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(prompt.Show(nullptr, "Create?", "Demo", 0x134), vx::kIdNo);
+    EXPECT_EQ(prompt.Show(nullptr, "Done.", nullptr, 0x0), vx::kIdOk);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "Demo: Create?\n[answered: No]\nDone.\n[answered: OK]\n");
 }
 
 TEST(MessageTextTest, InsertsFillTheirNumberedPoints) {
@@ -50,7 +54,6 @@ TEST(MessageTextTest, InsertsFillTheirNumberedPoints) {
         {"100% sure, %0 and %a stay", "100% sure, %0 and %a stay"},
         {"%%1", "%one"},
         {"ends in %", "ends in %"},
-        {"", ""},
     };
     for (const Case& c : cases)
         EXPECT_EQ(vx::FillInserts(c.pattern, {"one", "two"}), c.expected) << c.pattern;
