@@ -11,14 +11,12 @@ protected:
     RApplication app{"Demo", "vxapptest"};
 };
 
-TEST_F(RApplicationTest, AbsentEntriesGiveTheDefaults) {
+TEST_F(RApplicationTest, ValuesReadBackAsWrittenAndDefaultsOtherwise) {
     EXPECT_EQ(app.GetProfileInt("Menus", "Style", 7), 7u);
     EXPECT_EQ(app.GetProfileInt("Menus", "Style", -1), 4294967295u);
     EXPECT_EQ(app.GetProfileString("User", "VXPath", "dflt"), "dflt");
     EXPECT_EQ(app.GetProfileString("User", "VXPath"), "");
-}
 
-TEST_F(RApplicationTest, ValuesReadBackAsWritten) {
     ASSERT_TRUE(app.WriteProfileInt("Query", "MaxInQuery", 250));
     ASSERT_TRUE(app.WriteProfileInt("Query", "Negative", -3));
     ASSERT_TRUE(app.WriteProfileString("User", "VXPath", "/a;/b"));
@@ -45,19 +43,17 @@ TEST_F(RApplicationTest, NullValueDeletesAnEntryAndNullEntryTheSection) {
     EXPECT_EQ(app.GetProfileString("Other", "keep", ""), "yes");
 }
 
-TEST_F(RApplicationTest, WithoutAProfileNameNothingIsStored) {
+TEST_F(RApplicationTest, EachProfileNameHasAProfileOfItsOwn) {
+    RApplication other("Other", "vxapptest-other");
+    app.WriteProfileInt("Menus", "Style", 2);
+    EXPECT_EQ(other.GetProfileInt("Menus", "Style", 1), 1u);
+    EXPECT_NE(app.GetProfileLocation(), other.GetProfileLocation());
+
     RApplication nameless("Demo", "");
     EXPECT_FALSE(nameless.WriteProfileString("User", "VXPath", "x"));
     EXPECT_FALSE(nameless.WriteProfileInt("Menus", "Style", 2));
     EXPECT_EQ(nameless.GetProfileInt("Menus", "Style", 1), 1u);
     EXPECT_EQ(nameless.GetProfileLocation(), "");
-}
-
-TEST_F(RApplicationTest, ProfilesOfDifferentApplicationsAreSeparate) {
-    RApplication other("Other", "vxapptest-other");
-    app.WriteProfileInt("Menus", "Style", 2);
-    EXPECT_EQ(other.GetProfileInt("Menus", "Style", 1), 1u);
-    EXPECT_NE(app.GetProfileLocation(), other.GetProfileLocation());
 }
 
 TEST(RApplicationCurrent, DestroyingTheCurrentObjectUnsetsIt) {

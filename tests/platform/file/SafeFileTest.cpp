@@ -15,39 +15,32 @@ namespace {
 class SafeFileTest : public test::HomeTest {
 protected:
     // Replaces the content with `content`.
-    bool Put(const std::string& target, const std::string& content,
-             FileAccess access = FileAccess::OwnerOnly) {
+    static bool Put(const std::string& target, const std::string& content,
+                    FileAccess access = FileAccess::OwnerOnly) {
         return UpdateFile(
-            target,
-            [&](std::string& text) {
-                text = content;
-                return true;
-            },
-            access);
+            target, [&](std::string& text) { return (text = content, true); }, access);
     }
 
-    std::string path = home.file("store.txt");
+    const std::string path = home.file("store.txt");
 };
 
 TEST_F(SafeFileTest, EditSeesTheCurrentContentAndReplacesIt) {
     ASSERT_TRUE(Put((home.path() / "new" / "folder" / "x.txt").string(), "parents made"));
     test::WriteBytes(path, "old");
     std::string seen;
-    ASSERT_TRUE(UpdateFile(
-        path,
-        [&](std::string& text) {
-            seen = text;
-            text += "+new";
-            return true;
-        },
-        FileAccess::Shared));
+    const auto append = [&](std::string& text) {
+        seen = text;
+        text += "+new";
+        return true;
+    };
+    ASSERT_TRUE(UpdateFile(path, append, FileAccess::Shared));
     EXPECT_EQ(seen, "old");
     EXPECT_EQ(test::ReadBytes(path), "old+new");
     EXPECT_FALSE(std::filesystem::exists(path + ".tmp"));
 }
 
 TEST_F(SafeFileTest, DecliningEditLeavesEverythingAsItWas) {
-    auto decline = [](std::string&) { return false; };
+    const auto decline = [](std::string&) { return false; };
     EXPECT_TRUE(UpdateFile(path, decline, FileAccess::OwnerOnly));
     EXPECT_FALSE(std::filesystem::exists(path)) << "no empty file left behind";
 
@@ -87,25 +80,23 @@ TEST_F(SafeFileTest, FailsWhereNothingCanBeWritten) {
 }
 
 #ifndef _WIN32
-mode_t ModeOf(const std::string& target) {
-    struct stat info {};
-    ::stat(target.c_str(), &info);
-    return info.st_mode & 0777;
-}
-
 TEST_F(SafeFileTest, NewFilesGetTheirAccessAndRewritesKeepIt) {
+    const auto modeOf = [](const std::string& target) {
+        struct stat info {};
+        ::stat(target.c_str(), &info);
+        return info.st_mode & 0777;
+    };
     const mode_t oldMask = ::umask(022);
     ASSERT_TRUE(Put(path, "secret", FileAccess::OwnerOnly));
-    EXPECT_EQ(ModeOf(path), 0600u);
+    EXPECT_EQ(modeOf(path), 0600u);
     ASSERT_TRUE(Put(home.file("shared.txt"), "open", FileAccess::Shared));
-    EXPECT_EQ(ModeOf(home.file("shared.txt")), 0644u);
+    EXPECT_EQ(modeOf(home.file("shared.txt")), 0644u);
 
     ::chmod(path.c_str(), 0640);
     ASSERT_TRUE(Put(path, "still secret", FileAccess::OwnerOnly));
-    EXPECT_EQ(ModeOf(path), 0640u) << "the owner's choice stays";
+    EXPECT_EQ(modeOf(path), 0640u) << "the owner's choice stays";
     ::umask(oldMask);
 }
-
 #endif
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -14,7 +15,7 @@
 namespace vx {
 namespace {
 
-// Sets or removes an environment variable for the lifetime of the object.
+// Sets, or with nullopt removes, an environment variable for the lifetime of the object.
 class ScopedEnv {
 public:
     ScopedEnv(const char* name, const std::optional<std::string>& value) : m_name(name) {
@@ -22,11 +23,9 @@ public:
         Set(value);
     }
     ~ScopedEnv() { Set(m_old); }
-    ScopedEnv(const ScopedEnv&) = delete;
-    ScopedEnv& operator=(const ScopedEnv&) = delete;
 
 private:
-    void Set(const std::optional<std::string>& value) {
+    void Set(const std::optional<std::string>& value) const {
 #ifdef _WIN32
         _putenv_s(m_name, value ? value->c_str() : "");
 #else
@@ -72,17 +71,15 @@ TEST_F(SettingsHomeTest, FallsBackToTheWindowsFolder) {
 #endif
 
 TEST_F(SettingsHomeTest, BareNamesResolveIntoTheHome) {
-    const std::string homePath = home.path().string();
-    EXPECT_EQ(SettingsHome(), homePath);
+    EXPECT_EQ(SettingsHome(), home.path().string());
     EXPECT_EQ(ResolveSettingsFile("vx.ini"), home.file("vx.ini"));
     EXPECT_EQ(ResolveSettingsFile(""), "");
-    for (const std::string& path :
-         {std::string("sub/vx.ini"), std::string("/etc/vx.ini"), home.file("x.ini")})
-        EXPECT_EQ(ResolveSettingsFile(path), path);
+    std::vector<std::string> asGiven = {"sub/vx.ini", "/etc/vx.ini", home.file("x.ini")};
 #ifdef _WIN32
-    EXPECT_EQ(ResolveSettingsFile("C:vx.ini"), "C:vx.ini");
-    EXPECT_EQ(ResolveSettingsFile("sub\\vx.ini"), "sub\\vx.ini");
+    asGiven.insert(asGiven.end(), {"C:vx.ini", "sub\\vx.ini"});
 #endif
+    for (const std::string& path : asGiven)
+        EXPECT_EQ(ResolveSettingsFile(path), path);
 }
 
 TEST_F(SettingsHomeTest, EnsureCreatesMissingFoldersForTheOwnerOnly) {

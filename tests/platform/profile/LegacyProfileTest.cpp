@@ -12,6 +12,10 @@ constexpr const char* kSection = "VXUserTest";
 
 TEST_F(LegacyProfileTest, ReadsAndWritesThroughTheProfileRules) {
     ASSERT_TRUE(LegacyProfileWriteString(kSection, "USER1", "alice"));
+#ifndef _WIN32
+    EXPECT_EQ(LegacyProfilePath(), home.file("win.ini"));
+    EXPECT_EQ(test::ReadBytes(home.file("win.ini")), "[VXUserTest]\r\nUSER1=alice\r\n");
+#endif
     ASSERT_TRUE(LegacyProfileWriteString(kSection, "Vxpath1", "/home/alice/vx"));
     ASSERT_TRUE(LegacyProfileWriteString(kSection, "LastUserLoggedIn", "1"));
 
@@ -27,14 +31,6 @@ TEST_F(LegacyProfileTest, ReadsAndWritesThroughTheProfileRules) {
     ASSERT_TRUE(LegacyProfileWriteString(kSection, nullptr, nullptr));
     EXPECT_EQ(LegacyProfileGetInt(kSection, "LastUserLoggedIn", -1), 4294967295u);
 }
-
-#ifndef _WIN32
-TEST_F(LegacyProfileTest, LivesInTheSettingsHome) {
-    EXPECT_EQ(LegacyProfilePath(), home.file("win.ini"));
-    ASSERT_TRUE(LegacyProfileWriteString(kSection, "USER1", "bob"));
-    EXPECT_EQ(test::ReadBytes(home.file("win.ini")), "[VXUserTest]\r\nUSER1=bob\r\n");
-}
-#endif
 
 }  // namespace
 }  // namespace vx

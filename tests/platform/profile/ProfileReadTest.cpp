@@ -1,6 +1,8 @@
 // Reading profile files. These tests run against our engine on POSIX and against the system's
 // own functions on Windows, so that the Windows run checks that both behave alike.
+#include <chrono>
 #include <cstring>
+#include <filesystem>
 #include <string>
 
 #include "ProfileFixture.h"
@@ -9,6 +11,8 @@ namespace vx {
 namespace {
 
 using test::ProfileTest;
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
 
 const char* const kLines[] = {
     "[section1]",      "name1=val1",  "name2=\"val2\"",
@@ -85,19 +89,17 @@ TEST_F(ProfileTest, EnumeratesSectionsAndKeys) {
     EXPECT_EQ(Get("SECTION1", nullptr), std::string("name1\0name2\0name4\0", 18));
     EXPECT_EQ(Get("section2", nullptr), "default") << "no keys: the default";
     EXPECT_EQ(Get("missing", nullptr), "default");
-}
-
 #ifndef _WIN32  // Wine lists a nameless key as an empty name, which ends the list early
-TEST_F(ProfileTest, NamelessKeysAreNotListed) {
     Put("[s]\r\nname1=1\r\n=nameless\r\nname2=2\r\n");
     EXPECT_EQ(Get("s", nullptr), std::string("name1\0name2\0", 12));
-}
 #endif
+}
 
 // A list that does not fit is cut to size - 2 bytes and closed by two zeros; one that fills the
 // buffer exactly counts as not fitting.
 TEST_F(ProfileTest, EnumerationIntoSmallBuffersIsCutAndDoublyClosed) {
     Put("[section1]\r\n[section2]\r\n[section3]\r\n");
+    const std::string all("section1\0section2\0section3\0", 27);
     struct Case {
         unsigned long size;
         unsigned long result;
@@ -109,22 +111,16 @@ TEST_F(ProfileTest, EnumerationIntoSmallBuffersIsCutAndDoublyClosed) {
         const unsigned long got =
             ProfileGetString(nullptr, nullptr, "", buffer, c.size, path.c_str());
         ASSERT_EQ(got, c.result) << "size " << c.size;
-        EXPECT_EQ(std::string(buffer, 9), std::string("section1\0", 9));
+        EXPECT_EQ(std::string(buffer, 9), all.substr(0, 9));
         EXPECT_EQ(buffer[got], '\0');
         if (!c.cut) {
             EXPECT_EQ(buffer[got - 1], '\0');
             continue;
         }
 #ifndef _WIN32  // Wine does not close a cut list with two zeros; Windows and our engine do
-        EXPECT_EQ(buffer[got + 1], '\0');
+        EXPECT_EQ(std::string(buffer, got + 2), all.substr(0, got) + '\0' + '\0');
 #endif
     }
-    char buffer[40];
-    std::memset(buffer, 'x', sizeof buffer);
-    ASSERT_EQ(ProfileGetString(nullptr, nullptr, "", buffer, 16, path.c_str()), 14u);
-#ifndef _WIN32
-    EXPECT_EQ(std::string(buffer, 16), std::string("section1\0secti\0\0", 16));
-#endif
 }
 
 TEST_F(ProfileTest, MissingFileReadsAsEmpty) {
@@ -172,7 +168,45 @@ TEST_F(ProfileTest, DamagedFilesReadAsFarAsTheyMakeSense) {
     EXPECT_EQ(ProfileGetString("good", nullptr, "", path.c_str()), std::string("key\0", 4));
 }
 
+// Reads must see every change that others make on disk, however it is made, although parsed
+// files are cached.
+TEST_F(ProfileTest, ReadsSeeChangesMadeByOthers) {
+    const auto past = fs::file_time_type::clock::now() - 1h;
+    Put("[A]\r\nx=1\r\n");
+    fs::last_write_time(path, past);
+    EXPECT_EQ(Get("A", "x"), "1");
+    EXPECT_EQ(Get("A", "x"), "1");
+
+    // Rewritten in place, same size, another time.
+    Put("[A]\r\nx=2\r\n");
+    fs::last_write_time(path, past + 1s);
+    EXPECT_EQ(Get("A", "x"), "2");
+
+#ifndef _WIN32  // Wine's own cache goes by the time only
+    // Same size and time, but another file renamed over it.
+    test::WriteBytes(path + ".new", "[A]\r\nx=3\r\n");
+    fs::last_write_time(path + ".new", past + 1s);
+    fs::rename(path + ".new", path);
+    EXPECT_EQ(Get("A", "x"), "3");
+#endif
+
+    fs::remove(path);
+    EXPECT_EQ(Get("A", "x"), "default");
+}
+
 #ifndef _WIN32
+// A file rewritten twice within one tick of the file system's clock keeps size, time and inode:
+// only a fresh read tells, and a file that young is always read afresh.
+TEST_F(ProfileTest, YoungFilesAreReadAfresh) {
+    const auto now = fs::file_time_type::clock::now();
+    Put("[A]\r\nx=4\r\n");
+    fs::last_write_time(path, now);
+    EXPECT_EQ(Get("A", "x"), "4");
+    Put("[A]\r\nx=5\r\n");
+    fs::last_write_time(path, now);
+    EXPECT_EQ(Get("A", "x"), "5");
+}
+
 // A huge file is read as far as a profile can reach and never rewritten.
 TEST_F(ProfileTest, HugeFilesAreReadInPartAndLeftAlone) {
     const std::string huge = "[A]\nx=1\n" + std::string(5 << 20, 'z') + "\n[B]\ny=2\n";

@@ -70,28 +70,25 @@ void ExpectIntact(const std::string& bytes, const std::vector<std::string>& conf
 
 TEST_F(ProfileSafetyTest, TwoProcessesWritingAtOnceLoseNothing) {
     constexpr int kKeys = 500;
-    pid_t children[2];
-    const char* prefixes[2] = {"a", "b"};
-    for (int c = 0; c < 2; ++c) {
-        children[c] = ::fork();
-        ASSERT_GE(children[c], 0);
-        if (children[c] == 0) {
+    std::vector<pid_t> children;
+    std::vector<std::string> all;
+    for (const std::string prefix : {"a", "b"}) {
+        children.push_back(::fork());
+        ASSERT_GE(children.back(), 0);
+        if (children.back() == 0) {
             bool ok = true;
-            for (int i = 0; i < kKeys; ++i) {
-                ok = Set(prefixes[c] + std::to_string(i)) && ok;
-            }
+            for (int i = 0; i < kKeys; ++i)
+                ok = Set(prefix + std::to_string(i)) && ok;
             ::_exit(ok ? 0 : 1);
         }
+        for (int i = 0; i < kKeys; ++i)
+            all.push_back(prefix + std::to_string(i));
     }
     for (pid_t child : children) {
         int status = 0;
         ASSERT_EQ(::waitpid(child, &status, 0), child);
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
     }
-    std::vector<std::string> all;
-    for (const char* prefix : prefixes)
-        for (int i = 0; i < kKeys; ++i)
-            all.push_back(prefix + std::to_string(i));
     ExpectIntact(Bytes(), all);
     const std::string names = ProfileGetString("S", nullptr, "", path.c_str());
     EXPECT_EQ(std::count(names.begin(), names.end(), '\0'), 2 * kKeys) << "each key once";

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstdio>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "support/TempHome.h"
@@ -20,36 +22,16 @@ const CGNString kUsers = "Korvel\\VXUser\\Users";
 
 using RegistryPrimitives = vx::test::HomeTest;
 
+// A read's result and what it gave back.
+using TextRead = std::pair<int, std::string>;
+using NumberRead = std::pair<int, long>;
+
 int SetString(const char* name, const char* value) {
     return OSSetSystemConfigReg(CGNString(value), kUsers, name, kRoot);
 }
-// A value name of its own for writer `writer`'s `index`-th value.
-std::string WriterValueName(int writer, int index) {
-    return std::to_string(writer).append("_").append(std::to_string(index));
-}
-
 int SetNumber(const char* name, int value) {
     return OSSetSystemConfigReg(value, kUsers, name, kRoot);
 }
-
-// A read's result and what it gave back.
-struct TextRead {
-    int result;
-    std::string text;
-    friend bool operator==(const TextRead&, const TextRead&) = default;
-};
-struct NumberRead {
-    int result;
-    long number;
-    friend bool operator==(const NumberRead&, const NumberRead&) = default;
-};
-std::ostream& operator<<(std::ostream& out, const TextRead& r) {
-    return out << r.result << " \"" << r.text << '"';
-}
-std::ostream& operator<<(std::ostream& out, const NumberRead& r) {
-    return out << r.result << ' ' << r.number;
-}
-
 TextRead GetString(const char* name, const char* def = "default") {
     CGNString out = "garbage";
     const int result = OSGetSystemConfigReg(out, CGNString(def), kUsers, name, kRoot);
@@ -61,30 +43,35 @@ NumberRead GetNumber(const char* name, long def = 99) {
     return {result, out};
 }
 
-TEST_F(RegistryPrimitives, AbsentValuesGiveTheDefault) {
+TEST_F(RegistryPrimitives, AbsentAndDeletedValuesGiveTheDefault) {
     EXPECT_EQ(GetString("USER1"), (TextRead{0, "default"}));
     EXPECT_EQ(GetString("USER1", ""), (TextRead{0, ""}));
     EXPECT_EQ(GetNumber("LastUserLoggedIn", -1), (NumberRead{0, -1}));
     EXPECT_EQ(OSDelSystemConfigReg(kUsers, "USER1", kRoot), 0);
     ASSERT_GT(SetString("USER1", "alice"), 0);
-    EXPECT_EQ(GetString("USER2"), (TextRead{0, "default"}));
+    ASSERT_GT(SetString("USER2", "bob"), 0);
     long number = 0;
     EXPECT_EQ(OSGetSystemConfigReg(number, 5, "Korvel\\VXUser", "USER1", kRoot), 0);
+    EXPECT_GT(OSDelSystemConfigReg(kUsers, "USER1", kRoot), 0);
+    EXPECT_EQ(OSDelSystemConfigReg(kUsers, "USER1", kRoot), 0);
+    EXPECT_EQ(GetString("USER1"), (TextRead{0, "default"}));
+    EXPECT_EQ(GetString("USER2"), (TextRead{1, "bob"}));
 }
 
-TEST_F(RegistryPrimitives, StringsRoundTrip) {
+// A write sets the kind as well: the numbers replace a string, and a string replaces them.
+TEST_F(RegistryPrimitives, ValuesReadBackAsWritten) {
     for (const char* text : {"alice", "", "C:\\Users\\al \"ice\"\\", "x=y;[z]", "@"}) {
         ASSERT_GT(SetString("VXPATH1", text), 0) << text;
         EXPECT_EQ(GetString("VXPATH1"), (TextRead{1, text}));
     }
-}
-
-TEST_F(RegistryPrimitives, NumbersAreSignedThirtyTwoBit) {
+    // Numbers are signed 32-bit and read as their decimal text.
     for (int number : {0, 1, -1, 42, INT_MAX, INT_MIN}) {
-        ASSERT_GT(SetNumber("LastUserLoggedIn", number), 0) << number;
-        EXPECT_EQ(GetNumber("LastUserLoggedIn"), (NumberRead{1, number}));
-        EXPECT_EQ(GetString("LastUserLoggedIn"), (TextRead{1, std::to_string(number)}));
+        ASSERT_GT(SetNumber("VXPATH1", number), 0) << number;
+        EXPECT_EQ(GetNumber("VXPATH1"), (NumberRead{1, number}));
+        EXPECT_EQ(GetString("VXPATH1"), (TextRead{1, std::to_string(number)}));
     }
+    ASSERT_GT(SetString("VXPATH1", "bob"), 0);
+    EXPECT_EQ(GetNumber("VXPATH1"), (NumberRead{0, 99}));
 }
 
 TEST_F(RegistryPrimitives, NumberReadOfAString) {
@@ -115,23 +102,6 @@ TEST_F(RegistryPrimitives, NamesIgnoreCase) {
     EXPECT_EQ(GetString("User1"), (TextRead{0, "default"}));
 }
 
-TEST_F(RegistryPrimitives, AValueTakesTheKindLastWritten) {
-    ASSERT_GT(SetString("LastUserLoggedIn", "alice"), 0);
-    ASSERT_GT(SetNumber("LastUserLoggedIn", 3), 0);
-    EXPECT_EQ(GetNumber("LastUserLoggedIn"), (NumberRead{1, 3}));
-    ASSERT_GT(SetString("LastUserLoggedIn", "bob"), 0);
-    EXPECT_EQ(GetNumber("LastUserLoggedIn"), (NumberRead{0, 99}));
-}
-
-TEST_F(RegistryPrimitives, DeleteRemovesOneValue) {
-    ASSERT_GT(SetString("USER1", "alice"), 0);
-    ASSERT_GT(SetString("USER2", "bob"), 0);
-    EXPECT_GT(OSDelSystemConfigReg(kUsers, "USER1", kRoot), 0);
-    EXPECT_EQ(OSDelSystemConfigReg(kUsers, "USER1", kRoot), 0);
-    EXPECT_EQ(GetString("USER1"), (TextRead{0, "default"}));
-    EXPECT_EQ(GetString("USER2"), (TextRead{1, "bob"}));
-}
-
 TEST_F(RegistryPrimitives, NamesWithLineBreaksAreRefused) {
     EXPECT_EQ(SetString("USER\n1", "alice"), 0);
     EXPECT_EQ(OSSetSystemConfigReg(CGNString("x"), "Korvel\r\nX", "USER1", kRoot), 0);
@@ -141,80 +111,69 @@ TEST_F(RegistryPrimitives, NamesWithLineBreaksAreRefused) {
 
 TEST_F(RegistryPrimitives, ConcurrentWritersKeepEachOthersValues) {
     constexpr int kPerThread = 15;
+    const auto name = [](int writer, int index) {
+        return std::to_string(writer) + "_" + std::to_string(index);
+    };
     std::vector<std::thread> writers;
     for (int t = 0; t < 2; ++t) {
-        writers.emplace_back([t] {
-            for (int i = 0; i < kPerThread; ++i) {
-                SetNumber(WriterValueName(t, i).c_str(), i);
-            }
+        writers.emplace_back([t, &name] {
+            for (int i = 0; i < kPerThread; ++i)
+                SetNumber(name(t, i).c_str(), i);
         });
     }
     for (auto& writer : writers)
         writer.join();
-    for (int t = 0; t < 2; ++t) {
-        for (int i = 0; i < kPerThread; ++i) {
-            const std::string name = WriterValueName(t, i);
-            EXPECT_EQ(GetNumber(name.c_str()), (NumberRead{1, i})) << name;
-        }
-    }
+    for (int t = 0; t < 2; ++t)
+        for (int i = 0; i < kPerThread; ++i)
+            EXPECT_EQ(GetNumber(name(t, i).c_str()), (NumberRead{1, i})) << name(t, i);
 }
 
 #ifndef _WIN32
 // The POSIX store is a file that regedit can import; these check the file itself.
 class RegistryFile : public vx::test::HomeTest {
 protected:
-    std::string path() const { return home.file("registry.reg"); }
+    const std::string path = home.file("registry.reg");
 };
+
+const std::string kHead =
+    "Windows Registry Editor Version 5.00\r\n\r\n"
+    "[HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\Users]\r\n";
 
 TEST_F(RegistryFile, IsWrittenAsRegeditWritesIt) {
     ASSERT_GT(SetString("USER1", "C:\\al\"ice\""), 0);
     ASSERT_GT(SetNumber("LastUserLoggedIn", -1), 0);
     ASSERT_GT(SetString("user1", "alice"), 0);
-    EXPECT_EQ(vx::test::ReadBytes(path()),
-              "Windows Registry Editor Version 5.00\r\n\r\n"
-              "[HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\Users]\r\n"
-              "\"USER1\"=\"alice\"\r\n"
-              "\"LastUserLoggedIn\"=dword:ffffffff\r\n\r\n");
+    EXPECT_EQ(vx::test::ReadBytes(path),
+              kHead + "\"USER1\"=\"alice\"\r\n\"LastUserLoggedIn\"=dword:ffffffff\r\n\r\n");
     struct stat info {};
-    ASSERT_EQ(stat(path().c_str(), &info), 0);
+    ASSERT_EQ(stat(path.c_str(), &info), 0);
     EXPECT_EQ(info.st_mode & 0777, 0600);
 }
 
 TEST_F(RegistryFile, ChangesOnDiskAreSeen) {
-    const std::string head =
-        "Windows Registry Editor Version 5.00\n\n[HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\"
-        "Users]\n";
-    vx::test::WriteBytes(path(), head + "\"USER1\"=\"alice\"\n");
+    vx::test::WriteBytes(path, kHead + "\"USER1\"=\"alice\"\n");
     EXPECT_EQ(GetString("USER1"), (TextRead{1, "alice"}));
-    vx::test::WriteBytes(path(), head + "\"USER1\"=\"bob\"\n");
+    vx::test::WriteBytes(path, kHead + "\"USER1\"=\"bob\"\n");
     EXPECT_EQ(GetString("USER1"), (TextRead{1, "bob"}));
-    std::remove(path().c_str());
+    std::remove(path.c_str());
     EXPECT_EQ(GetString("USER1"), (TextRead{0, "default"}));
 }
 
+// regedit exports in UTF-16 and may hold kinds that read as absent (hex(2) here); the file stays
+// UTF-16, and a new value goes after the others.
 TEST_F(RegistryFile, AnExportOfRegeditIsReadAndKept) {
-    const std::string text =
-        "Windows Registry Editor Version 5.00\r\n\r\n"
-        "[HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\Users]\r\n"
-        "\"USER1\"=\"alice\"\r\n"
-        "\"Note\"=hex(2):41,00,00,00\r\n\r\n";
-    std::string utf16 = "\xFF\xFE";
-    for (char c : text)
-        utf16 += std::string{c, '\0'};
-    vx::test::WriteBytes(path(), utf16);
-
+    const auto utf16 = [](const std::string& text) {
+        std::string bytes = "\xFF\xFE";
+        for (char c : text)
+            bytes += {c, '\0'};
+        return bytes;
+    };
+    const std::string values = kHead + "\"USER1\"=\"alice\"\r\n\"Note\"=hex(2):41,00,00,00\r\n";
+    vx::test::WriteBytes(path, utf16(values + "\r\n"));
     EXPECT_EQ(GetString("USER1"), (TextRead{1, "alice"}));
     EXPECT_EQ(GetString("Note"), (TextRead{0, "default"}));
     ASSERT_GT(SetString("USER2", "bob"), 0);
-
-    const std::string written = vx::test::ReadBytes(path());
-    std::string expected = "\xFF\xFE";
-    const std::string added = "\"USER2\"=\"bob\"\r\n";
-    std::string newText = text;
-    newText.insert(newText.find("\r\n\r\n", 60) + 2, added);
-    for (char c : newText)
-        expected += std::string{c, '\0'};
-    EXPECT_EQ(written, expected);
+    EXPECT_EQ(vx::test::ReadBytes(path), utf16(values + "\"USER2\"=\"bob\"\r\n\r\n"));
 }
 #endif
 

@@ -62,10 +62,7 @@ TEST(RegistryDocument, ReadsValuesOfAnExport) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(Lookup(document, c.key, c.name), c.expected) << c.key << " / " << c.name;
-}
-
-TEST(RegistryDocument, WritesBackUnchangedBytes) {
-    EXPECT_EQ(RegistryDocument::FromBytes(kExport).ToBytes(), kExport);
+    EXPECT_EQ(document.ToBytes(), kExport) << "written back unchanged";
 }
 
 TEST(RegistryDocument, EditsTouchOnlyTheirLine) {
@@ -77,8 +74,7 @@ TEST(RegistryDocument, EditsTouchOnlyTheirLine) {
     EXPECT_TRUE(document.Set(kUsers, "Search", StringValue("%PATH%")));
     EXPECT_TRUE(document.Remove(kUsers, "VXPATH1"));
     std::string expected = Replaced(kExport, "\"USER1\"=\"alice\"", "\"USER1\"=\"bob\"");
-    expected = Replaced(expected, "\"LastUserLoggedIn\"=dword:ffffffff",
-                        "\"LastUserLoggedIn\"=dword:00000002");
+    expected = Replaced(expected, "dword:ffffffff", "dword:00000002");
     expected = Replaced(expected,
                         "\"Search\"=hex(2):25,00,50,00,41,00,54,00,48,00,25,00,00,00,41,00,42,"
                         "00,43,00,44,\\\r\n  00,00,00",
