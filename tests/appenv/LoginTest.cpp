@@ -55,33 +55,30 @@ TEST_F(LoginTest, LastUserComesFromTheUserFileOrElseFromTheSlot) {
     EXPECT_EQ(CAppEnv::SetLastUserAndPassword(nullptr, "pw"), 0);
 }
 
-TEST_F(LoginTest, RememberingWritesBothFilesAndLeavesTheLastUserAlone) {
-    const std::string osUser = ClientGetOSUserName().str();
-    ASSERT_FALSE(osUser.empty());
-    ASSERT_EQ(CAppEnv::SetLastUserAndPassword("ann", "pw"), 1);
-    EXPECT_EQ(Remembered(annFolder, "User") + "/" + Remembered(annFolder, "Password"), "ann/pw");
-    EXPECT_EQ(Remembered(defaultFolder, "OSUser"), osUser);
-    EXPECT_EQ(Remembered(defaultFolder, "User"), "<absent>");
-    EXPECT_EQ(Reg("LastUserLoggedIn"), "<absent>");
-    char osUserRead[vx::kNameBufferSize] = {};
-    EXPECT_EQ(CAppEnv::GetLastOSUser(osUserRead), 1);
-    EXPECT_EQ(ReadFrom(annFolder), "1 ann/pw");
-}
-
-TEST_F(LoginTest, UnknownUsersUseTheDefaultFolderWhichMustBeSet) {
-    ASSERT_EQ(CAppEnv::SetLastUserAndPassword("zed", "pw"), 1);
-    EXPECT_EQ(Remembered(defaultFolder, "User") + "/" + Remembered(defaultFolder, "Password"),
-              "zed/pw");
-
+TEST_F(LoginTest, RememberingWritesTheUserFileAndTheDefaultFolderFile) {
+    // Without a default home folder nothing is written and there is no logon name.
     DeleteReg("VXPATH0");
     EXPECT_EQ(CAppEnv::SetLastUserAndPassword("ann", "pw"), 0);
     EXPECT_EQ(Remembered(annFolder, "User"), "<absent>");
     char osUser[vx::kNameBufferSize] = "untouched";
     EXPECT_EQ(CAppEnv::GetLastOSUser(osUser), 0);
     EXPECT_STREQ(osUser, "untouched");
+
+    SetReg("VXPATH0", defaultFolder);
+    ASSERT_FALSE(ClientGetOSUserName().IsEmpty());
+    ASSERT_EQ(CAppEnv::SetLastUserAndPassword("ann", "pw"), 1);
+    EXPECT_EQ(Remembered(annFolder, "User") + "/" + Remembered(annFolder, "Password"), "ann/pw");
+    EXPECT_EQ(Remembered(defaultFolder, "OSUser"), ClientGetOSUserName().str());
+    EXPECT_EQ(Remembered(defaultFolder, "User"), "<absent>");
+    EXPECT_EQ(Reg("LastUserLoggedIn"), "<absent>");
+    EXPECT_EQ(CAppEnv::GetLastOSUser(osUser), 1);
+    EXPECT_EQ(ReadFrom(annFolder), "1 ann/pw");
+    // Unknown users are remembered in the default home folder.
+    ASSERT_EQ(CAppEnv::SetLastUserAndPassword("zed", "pw2"), 1);
+    EXPECT_EQ(ReadFrom(defaultFolder), "1 zed/pw2");
     // Without the user name the password is not read.
-    Remember(annFolder, "Password", "pw");
-    EXPECT_EQ(ReadFrom(annFolder), "0 /untouched");
+    Remember(annFolder, "User", "");
+    EXPECT_EQ(ReadFrom(annFolder), "0 /pw2");
 }
 
 TEST_F(LoginTest, LongValuesComeBackCutToThirtyBytesAtACharacterBoundary) {

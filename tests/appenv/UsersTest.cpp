@@ -40,77 +40,82 @@ protected:
             if (folder != "/h/" + name) slots += "=" + (folder == "<absent>" ? "" : folder);
         }
     }
-
-    // "names|folders" as listed, each part joined by blanks.
-    static std::string List() {
-        CGNStringList names, folders;
-        EXPECT_EQ(CAppEnv::GetListOfUsers(names, folders), 1);
-        return names.Join(' ').str() + "|" + folders.Join(' ').str();
-    }
-
-    // "<slot> <folder>" from GetLastUserAndPath.
-    static std::string LastUser() {
-        unsigned int slot = 7;
-        char folder[vx::kHomeFolderBufferSize] = "stale";
-        CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-        return std::to_string(static_cast<int>(slot)) + " " + folder;
-    }
 };
 
-// "delete NAME", "add NAME FOLDER", "home NAME FOLDER", "rename OLD NEW", "last NAME".
-int Apply(const std::string& operation) {
+// Runs "delete NAME", "add NAME FOLDER", "home NAME FOLDER", "rename OLD NEW", "last NAME",
+// "find NAME", "default", "list" or "lastpath"; gives the result and what the operation handed
+// out, separated by blanks (a listing as "names|folders").
+std::string Apply(const std::string& operation) {
     std::istringstream words(operation);
     std::string verb, first, second;
     words >> verb >> first >> second;
-    if (verb == "delete") return CAppEnv::DeleteUser(first.c_str());
-    if (verb == "add") return CAppEnv::AddUser(first.c_str(), second.c_str());
-    if (verb == "home") return CAppEnv::SetUserHomePath(first.c_str(), second.c_str());
-    if (verb == "rename") return CAppEnv::RenameUser(first.c_str(), second.c_str());
-    return CAppEnv::SetLastUserLoggedIn(first.c_str());
+    CGNString folder = "stale";
+    if (verb == "delete") return std::to_string(CAppEnv::DeleteUser(first.c_str()));
+    if (verb == "add") return std::to_string(CAppEnv::AddUser(first.c_str(), second.c_str()));
+    if (verb == "home")
+        return std::to_string(CAppEnv::SetUserHomePath(first.c_str(), second.c_str()));
+    if (verb == "rename") return std::to_string(CAppEnv::RenameUser(first.c_str(), second.c_str()));
+    if (verb == "last") return std::to_string(CAppEnv::SetLastUserLoggedIn(first.c_str()));
+    if (verb == "find")
+        return std::to_string(CAppEnv::FindHomeDirectory(first.c_str(), folder)) + " " +
+               folder.str();
+    if (verb == "default")
+        return std::to_string(CAppEnv::GetDefaultHomePath(folder)) + " " + folder.str();
+    if (verb == "list") {
+        CGNStringList names, folders;
+        const int result = CAppEnv::GetListOfUsers(names, folders);
+        return std::to_string(result) + " " + names.Join(' ').str() + "|" + folders.Join(' ').str();
+    }
+    unsigned int slot = 7;
+    char path[vx::kHomeFolderBufferSize] = "stale";
+    CAppEnv::GetLastUserAndPath(&slot, path, sizeof path);
+    return std::to_string(static_cast<int>(slot)) + " " + path;
 }
 
-TEST_F(UsersTest, SlotsStayDenseThroughAddDeleteAndRename) {
+TEST_F(UsersTest, SlotsStayDenseAndLookupsFollowThem) {
     struct Case {
         const char* before;
         const char* lastBefore;
         const char* operation;
-        int result;
-        const char* after;
+        const char* result;
+        const char* after;  // null when the slots do not change
         const char* lastAfter;
     };
     // clang-format off
     const Case cases[] = {
-        {"ann bob cid", "3",        "delete bob",        1, "ann cid",          "2"},
-        {"ann bob cid", "2",        "delete bob",        1, "ann cid",          "-1"},
-        {"ann bob cid", "1",        "delete bob",        1, "ann cid",          "1"},
-        {"ann bob",     "<absent>", "delete ann",        1, "bob",              "-1"},
-        {"ann",         "1",        "delete ann",        1, "",                 "-1"},
-        {"ann bob",     "2",        "delete zed",        0, "ann bob",          "2"},
-        {"ann",         "<absent>", "delete Ann",        0, "ann",              "<absent>"},
+        {"ann bob cid",  "3",        "delete bob",     "1", "ann cid",        "2"},
+        {"ann bob cid",  "2",        "delete bob",     "1", "ann cid",        "-1"},
+        {"ann bob cid",  "1",        "delete bob",     "1", "ann cid",        "1"},
+        {"ann bob",      "<absent>", "delete ann",     "1", "bob",            "-1"},
+        {"ann bob",      "2",        "delete zed",     "0", nullptr,          "2"},
         // A moved slot without a folder keeps the folder that its new slot had.
-        {"ann bob cid=", "3",       "delete bob",        1, "ann cid=/h/bob",   "2"},
-        {"ann",         "1",        "add bob /h/bob",    1, "ann bob",          "1"},
-        {"",            "<absent>", "add ann /h/ann",    1, "ann",              "<absent>"},
-        {"ann bob",     "<absent>", "add ann /new",      1, "ann=/new bob",     "<absent>"},
-        {"ann bob",     "<absent>", "home bob /new",     1, "ann bob=/new",     "<absent>"},
-        {"ann bob",     "2",        "rename bob rob",    1, "ann rob=/h/bob",   "2"},
-        {"ann",         "<absent>", "rename zed rob",    0, "ann",              "<absent>"},
-        {"ann bob",     "<absent>", "last bob",          1, "ann bob",          "2"},
-        {"ann bob",     "1",        "last zed",          1, "ann bob",          "-1"},
+        {"ann bob cid=", "3",        "delete bob",     "1", "ann cid=/h/bob", "2"},
+        {"ann",          "1",        "add bob /h/bob", "1", "ann bob",        "1"},
+        {"ann bob",      "<absent>", "add ann /new",   "1", "ann=/new bob",   "<absent>"},
+        {"ann bob",      "<absent>", "home bob /new",  "1", "ann bob=/new",   "<absent>"},
+        {"ann bob",      "2",        "rename bob rob", "1", "ann rob=/h/bob", "2"},
+        {"ann",          "<absent>", "rename zed rob", "0", nullptr,          "<absent>"},
+        {"ann bob",      "<absent>", "last bob",       "1", nullptr,          "2"},
+        {"ann bob",      "1",        "last zed",       "1", nullptr,          "-1"},
+        {"ann bob ann=/other cid=", "<absent>", "list", "1 ann bob cid|/h/ann /h/bob ", nullptr,
+         "<absent>"},
+        // The first "bob" has no folder: the search goes on to the next slot of that name.
+        {"ann bob= bob=/h/bob2", "<absent>", "find bob", "1 /h/bob2", nullptr, "<absent>"},
+        {"ann",          "<absent>", "find zed",       "0 ",       nullptr,   "<absent>"},
+        {"",             "<absent>", "default",        "0 ",       nullptr,   "<absent>"},
+        {"ann bob=",     "1",        "lastpath",       "1 /h/ann", nullptr,   "1"},
+        {"ann bob=",     "2",        "lastpath",       "2 ",       nullptr,   "2"},
+        {"ann",          "<absent>", "lastpath",       "-1 ",      nullptr,   "-1"},
     };
     // clang-format on
     for (const Case& c : cases) {
         vx::test::TempHome fresh;
         Seed(c.before, c.lastBefore);
         EXPECT_EQ(Apply(c.operation), c.result) << c.before << ": " << c.operation;
-        EXPECT_EQ(StoredSlots(), c.after) << c.before << ": " << c.operation;
+        EXPECT_EQ(StoredSlots(), c.after ? c.after : c.before) << c.before << ": " << c.operation;
         EXPECT_EQ(Reg("LastUserLoggedIn"), c.lastAfter) << c.before << ": " << c.operation;
     }
-}
-
-TEST_F(UsersTest, ListingGivesEachNameOnceWithItsFirstFolder) {
-    Seed("ann bob ann=/other cid=");
-    EXPECT_EQ(List(), "ann bob cid|/h/ann /h/bob ");
+    CAppEnv::GetLastUserAndPath(nullptr, nullptr, 0);
 }
 
 TEST_F(UsersTest, LegacyUsersMigrateOnFirstListingInTheirOrder) {
@@ -119,13 +124,23 @@ TEST_F(UsersTest, LegacyUsersMigrateOnFirstListingInTheirOrder) {
     Legacy("USER2", "old2");
     Legacy("Vxpath2", "/legacy/2");
     Legacy("VXPATH0", "/legacy");
-    EXPECT_EQ(List(), "old1 old2|/legacy/1 /legacy/2");
+    EXPECT_EQ(Apply("list"), "1 old1 old2|/legacy/1 /legacy/2");
     EXPECT_EQ(StoredSlots(), "old1=/legacy/1 old2=/legacy/2");
     EXPECT_EQ(Reg("VXPATH0"), "/legacy");
 
     // From now on the registry is the store of record.
     Legacy("USER3", "late");
-    EXPECT_EQ(List(), "old1 old2|/legacy/1 /legacy/2");
+    EXPECT_EQ(Apply("list"), "1 old1 old2|/legacy/1 /legacy/2");
+}
+
+TEST_F(UsersTest, LastUserOfAnOlderClientIsTakenOverWithItsUsers) {
+    Legacy("USER1", "old1");
+    Legacy("USER2", "old2");
+    Legacy("Vxpath2", "/legacy/2");
+    Legacy("LastUserLoggedIn", "2");
+    EXPECT_EQ(Apply("lastpath"), "2 /legacy/2");
+    EXPECT_EQ(Reg("LastUserLoggedIn"), "2");
+    EXPECT_EQ(StoredSlots(), "old1= old2=/legacy/2");
 }
 
 TEST_F(UsersTest, RenameBeforeMigrationRenamesTheLegacyUser) {
@@ -138,45 +153,12 @@ TEST_F(UsersTest, RenameBeforeMigrationRenamesTheLegacyUser) {
     EXPECT_EQ(Reg("USER1"), "<absent>");
 }
 
-TEST_F(UsersTest, HomeFoldersFallBackToTheDefaultWhichMigratesFromLegacy) {
-    CGNString folder = "stale";
-    EXPECT_EQ(CAppEnv::GetDefaultHomePath(folder), 0);
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 0);
-    EXPECT_EQ(folder, "");
-
+TEST_F(UsersTest, TheDefaultHomeFolderMigratesFromLegacyAndAnswersForUnknownUsers) {
     Legacy("VXPATH0", "/legacy");
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("zed", folder), 1);
-    EXPECT_EQ(folder, "/legacy");
+    EXPECT_EQ(Apply("find zed"), "1 /legacy");
     EXPECT_EQ(Reg("VXPATH0"), "/legacy");
     EXPECT_EQ(CAppEnv::SetDefaultHomePath("/home"), 1);
-    EXPECT_EQ(CAppEnv::GetDefaultHomePath(folder), 1);
-    EXPECT_EQ(folder, "/home");
-
-    // The first "bob" has no folder: the search goes on to the next slot of that name.
-    Seed("ann bob= bob=/h/bob2");
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("ann", folder), 1);
-    EXPECT_EQ(folder, "/h/ann");
-    EXPECT_EQ(CAppEnv::FindHomeDirectory("bob", folder), 1);
-    EXPECT_EQ(folder, "/h/bob2");
-}
-
-TEST_F(UsersTest, LastUserAndPath) {
-    EXPECT_EQ(LastUser(), "-1 ");
-    Seed("ann bob=", "1");
-    EXPECT_EQ(LastUser(), "1 /h/ann");
-    SetRegNumber("LastUserLoggedIn", 2);
-    EXPECT_EQ(LastUser(), "2 ");
-    CAppEnv::GetLastUserAndPath(nullptr, nullptr, 0);
-}
-
-TEST_F(UsersTest, LastUserOfAnOlderClientIsTakenOverWithItsUsers) {
-    Legacy("USER1", "old1");
-    Legacy("USER2", "old2");
-    Legacy("Vxpath2", "/legacy/2");
-    Legacy("LastUserLoggedIn", "2");
-    EXPECT_EQ(LastUser(), "2 /legacy/2");
-    EXPECT_EQ(Reg("LastUserLoggedIn"), "2");
-    EXPECT_EQ(StoredSlots(), "old1= old2=/legacy/2");
+    EXPECT_EQ(Apply("default"), "1 /home");
 }
 
 }  // namespace

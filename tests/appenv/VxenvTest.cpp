@@ -3,7 +3,7 @@
 #ifdef VXENV_PROGRAM
 #include <sys/wait.h>
 
-#include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,17 +18,12 @@ protected:
     // Runs vxenv with `arguments` (shell words) and keeps its standard output; gives the exit
     // status, -1 when it did not exit normally.
     int Run(const std::string& arguments, std::string* out = nullptr) {
-        const std::string command = std::string("'") + VXENV_PROGRAM + "' --home '" +
-                                    home.path().string() + "' --app vxappenvtest " + arguments +
-                                    " 2>/dev/null";
-        FILE* pipe = popen(command.c_str(), "r");
-        if (pipe == nullptr) return -1;
-        std::string text;
-        char buffer[4096];
-        for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
-            text.append(buffer, got);
-        const int code = pclose(pipe);
-        if (out != nullptr) *out = text;
+        const std::string outFile = home.file("vxenv.out");
+        const int code =
+            std::system(("'" VXENV_PROGRAM "' --home '" + home.path().string() +
+                         "' --app vxappenvtest " + arguments + " >'" + outFile + "' 2>/dev/null")
+                            .c_str());
+        if (out != nullptr) *out = vx::test::ReadBytes(outFile);
         return WIFEXITED(code) ? WEXITSTATUS(code) : -1;
     }
     std::string Output(const std::string& arguments) {
