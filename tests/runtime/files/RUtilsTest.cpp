@@ -52,18 +52,12 @@ protected:
     }
 };
 
-TEST_F(FolderTest, ExistenceIsAllThatIsChecked) {
-    File("folder/file.txt");
-    EXPECT_EQ(RIsValidDirectory(At("folder")), 1);
-    EXPECT_EQ(RIsValidDirectory(At("folder/file.txt")), 1);  // a file counts
-    EXPECT_EQ(RIsValidDirectory(At("folder/missing")), 0);
-    EXPECT_EQ(RIsValidDirectory(""), 0);
-}
-
+// Existence is all that is checked: a file counts as well as a folder.
 TEST_F(FolderTest, PathListStopsAtTheFirstMissingPath) {
     File("a/x");
     File("b/x");
-    const std::string a = At("a").str(), b = At("b").str();
+    EXPECT_EQ(RIsValidDirectory(""), 0);
+    const std::string a = At("a").str(), b = At("b/x").str();
     const std::string missing = At("missing").str(), later = At("later").str();
     struct Case {
         std::string paths;
@@ -100,19 +94,16 @@ TEST_F(FolderTest, MissingFolderIsCreatedOnlyWhenTheUserSaysYes) {
     // Once it exists, no question is asked.
     EXPECT_EQ(RValidatePathWithCreate(wanted, nullptr), 1);
     EXPECT_EQ(prompt.shown.size(), 1u);
-}
 
-TEST_F(FolderTest, FolderThatCannotBeCreatedIsReported) {
+    // A folder that cannot be made (below a file) is reported.
     File("plain");
-    const CGNString wanted = At("plain/sub");  // below a file
-    ScriptedPrompt prompt(vx::kIdYes);
-    EXPECT_EQ(RValidatePathWithCreate(wanted, nullptr), 0);
-    ASSERT_EQ(prompt.shown.size(), 2u);
-    EXPECT_EQ(prompt.shown[1].first,
-              wanted.str() +
+    EXPECT_EQ(RValidatePathWithCreate(At("plain/sub"), nullptr), 0);
+    ASSERT_EQ(prompt.shown.size(), 3u);
+    EXPECT_EQ(prompt.shown[2].first,
+              At("plain/sub").str() +
                   "\n\nError creating folder.  Please verify folder location and security "
                   "permissions and try again.");
-    EXPECT_EQ(prompt.shown[1].second, 0x10u);
+    EXPECT_EQ(prompt.shown[2].second, 0x10u);
 }
 
 TEST_F(FolderTest, CreateMakesEveryMissingLevel) {

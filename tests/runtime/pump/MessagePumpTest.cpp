@@ -169,19 +169,6 @@ TYPED_TEST(PumpTest, FirstIdentifierFirstAndOtherMessagesStayQueued) {
     EXPECT_EQ(this->harness.dispatched, (Dispatched{{kC, 2}}));
 }
 
-TYPED_TEST(PumpTest, TickPumpsOnlyThePumpOfItsTimer) {
-    RMessagePump first(kA, -1, 1);
-    RMessagePump second(kB, -1, 1);
-    this->harness.Post(kA, 1);
-    this->harness.Post(kB, 2);
-    this->harness.Station().OnTimer(second.GetID());
-    EXPECT_EQ(this->harness.dispatched, (Dispatched{{kB, 2}}));
-    second.Stop();
-    this->harness.Station().OnTimer(2);  // a stopped pump's tick finds nothing
-    EXPECT_EQ(this->harness.dispatched.size(), 1u);
-    EXPECT_EQ(this->harness.Station().GetPumpCount(), 1u);
-}
-
 using StationTest = PumpTest<LocalHarness>;
 
 TEST_F(StationTest, PumpKeepsItsIdentifiersOnceEachInOrder) {
@@ -194,21 +181,27 @@ TEST_F(StationTest, PumpKeepsItsIdentifiersOnceEachInOrder) {
     EXPECT_EQ(pump.GetMessageIndex(kC), 1);
 }
 
-TEST_F(StationTest, StartGivesTimerIdsInTurnAndOnlyOnce) {
+TEST_F(StationTest, StartedPumpsGetTimerIdsInTurnAndOnlyTheirOwnTicks) {
     RMessagePump empty(0u, -1, 1);
-    EXPECT_EQ(empty.GetID(), 0u);  // no messages, no start
-    EXPECT_EQ(empty.Start(), 0);
-
+    EXPECT_EQ(empty.Start(), 0);  // no messages, no start
     RMessagePump first(kA);
     EXPECT_EQ(first.Start(), 1);
     EXPECT_EQ(first.Start(), 0);
-    EXPECT_EQ(first.GetID(), 1u);
-    RVisualPump second(-1, 1);
-    EXPECT_EQ(second.GetID(), 2u);
-    first.Stop();
-    EXPECT_EQ(first.GetID(), 0u);
-    EXPECT_EQ(first.Start(), 1);
-    EXPECT_EQ(first.GetID(), 3u);  // ids are never reused
+    RVisualPump visual(-1, 1);
+    RMessagePump second(kB, -1, 1);
+    EXPECT_EQ(second.GetID(), 3u);
+
+    harness.Post(kA, 1);
+    harness.Post(kB, 2);
+    harness.station.OnTimer(3);
+    EXPECT_EQ(harness.dispatched, (Dispatched{{kB, 2}}));
+    second.Stop();
+    EXPECT_EQ(second.GetID(), 0u);
+    harness.station.OnTimer(3);  // a stopped pump's tick finds nothing
+    EXPECT_EQ(harness.dispatched.size(), 1u);
+    EXPECT_EQ(harness.station.GetPumpCount(), 2u);
+    EXPECT_EQ(second.Start(), 1);
+    EXPECT_EQ(second.GetID(), 4u);  // ids are never reused
 }
 
 TEST_F(StationTest, DestroyedStationStopsItsPumps) {
