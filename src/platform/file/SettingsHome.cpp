@@ -37,7 +37,7 @@ std::string UserHomeFolder() {
 }
 
 std::string DefaultHome() {
-    // The base directory specification says a relative $XDG_CONFIG_HOME is to be ignored.
+    // The XDG base directory rules say a relative $XDG_CONFIG_HOME is to be ignored.
     const std::string xdg = Environment("XDG_CONFIG_HOME");
     if (!xdg.empty() && xdg[0] == '/') return xdg + "/korvel";
     const std::string home = UserHomeFolder();
