@@ -34,6 +34,14 @@ vx_need_packages() {
         "${sudo[@]}" apt-get "${lock[@]}" install -y -qq "${missing[@]}" </dev/null >/dev/null
 }
 
+# vx_need_locale <language_TERRITORY>: makes the UTF-8 locale available (package locales), for
+# the tests of the user's number format, which are skipped without one.
+vx_need_locale() {
+    locale -a 2>/dev/null | grep -qix "$1.utf8" && return 0
+    vx_note "generating the locale $1.UTF-8"
+    localedef -i "$1" -f UTF-8 "$1.UTF-8"
+}
+
 # Prints the part of a failed build log that explains the failure, capped so that a cascade of
 # template errors does not bury the first one.
 vx_show_failure() {
@@ -84,12 +92,14 @@ vx_sanitizer_environment() {
 
 VX_PASSED=0
 VX_FAILED=0
+VX_SKIPPED=0
 VX_SUMMARY=()
 
-# vx_count <passed> <failed>: adds to the run's tally.
+# vx_count <passed> <failed> [skipped]: adds to the run's tally.
 vx_count() {
     VX_PASSED=$((VX_PASSED + $1))
     VX_FAILED=$((VX_FAILED + $2))
+    VX_SKIPPED=$((VX_SKIPPED + ${3:-0}))
 }
 
 # vx_ctest <build folder> <timeout seconds>: runs the folder's tests and adds their counts to the
@@ -103,12 +113,14 @@ vx_ctest() {
     local routine='^Internal ctest changing|^ *Start +[0-9]+: '
     local passed='^ *[0-9]+/[0-9]+ Test +#[0-9]+: .* +Passed +[0-9.]+ sec$'
     grep -Ev "$routine|$passed" "$log"
-    local line total failed
+    local line total failed skipped
     line="$(grep -E '^[0-9]+% tests passed, [0-9]+ tests? failed out of [0-9]+' "$log" | tail -n 1)"
     if [ -n "$line" ]; then
         failed="$(sed -E 's/.*passed, ([0-9]+) tests? failed.*/\1/' <<<"$line")"
         total="$(sed -E 's/.*out of ([0-9]+).*/\1/' <<<"$line")"
-        vx_count $((total - failed)) "$failed"
+        # ctest counts skipped tests as passed; the tally keeps them apart.
+        skipped="$(grep -Ec '^[[:space:]]+[0-9]+ - .* \(Skipped\)$' "$log")"
+        vx_count $((total - failed - skipped)) "$failed" "$skipped"
     elif [ $status -ne 0 ]; then
         vx_count 0 1
     fi

@@ -2,7 +2,7 @@
 # Stage: every test again, built with AddressSanitizer (leaks included) and
 # UndefinedBehaviorSanitizer; any report fails the test that produced it.
 
-VX_ASAN_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext)
+VX_ASAN_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext locales)
 VX_ASAN_DIR="$VX_BUILD/asan"
 
 # Proves that LeakSanitizer runs here: it has to stop the process's threads the way a debugger
