@@ -81,30 +81,30 @@ TEST_F(LoginTest, RememberingWritesTheUserFileAndTheDefaultFolderFile) {
     EXPECT_EQ(ReadFrom(annFolder), "0 /pw2");
 }
 
-TEST_F(LoginTest, LongValuesComeBackCutToThirtyBytesAtACharacterBoundary) {
-    // The second text's last character (U+00E9, two bytes in UTF-8) would end at byte 31.
-    const std::string texts[] = {std::string(31, 'a'), std::string(29, 'a') + "\xc3\xa9"};
-    const std::size_t utf8Bytes[] = {30, 29};
-    SetRegNumber("LastUserLoggedIn", 1);
-    for (int i = 0; i < 2; ++i) {
-        const std::string& text = texts[i];
+// `text` cut to 30 bytes at a character boundary: `utf8Bytes` of it where it is UTF-8; on Windows
+// the ANSI code page of the test run decides where characters end.
+std::string Cut(const std::string& text, [[maybe_unused]] std::size_t utf8Bytes) {
 #ifdef _WIN32
-        // The ANSI code page of the test run decides where characters end.
-        const std::string cut = text.substr(0, vx::mb::CutLength(text.c_str(), text.size(), 30));
+    return text.substr(0, vx::mb::CutLength(text.c_str(), text.size(), 30));
 #else
-        const std::string cut = text.substr(0, utf8Bytes[i]);
+    return text.substr(0, utf8Bytes);
 #endif
-        Remember(annFolder, "User", text);
-        Remember(annFolder, "Password", text);
-        std::memset(user, 'x', sizeof user);
-        std::memset(password, 'x', sizeof password);
-        EXPECT_EQ(Last(), "1 " + cut + "/" + cut);
-        // A name from the registry slot is cut the same way.
-        Remember(annFolder, "User", "");
-        SetReg("USER1", text);
-        std::memset(user, 'x', sizeof user);
-        EXPECT_EQ(Last(), "1 " + cut + "/" + cut);
-    }
+}
+
+TEST_F(LoginTest, LongValuesComeBackCutToThirtyBytesAtACharacterBoundary) {
+    // The last character of `accented` (U+00E9, two bytes in UTF-8) would end at byte 31.
+    const std::string ascii(31, 'a'), accented = std::string(29, 'a') + "\xc3\xa9";
+    SetRegNumber("LastUserLoggedIn", 1);
+    Remember(annFolder, "User", ascii);
+    Remember(annFolder, "Password", accented);
+    std::memset(user, 'x', sizeof user);
+    std::memset(password, 'x', sizeof password);
+    EXPECT_EQ(Last(), "1 " + Cut(ascii, 30) + "/" + Cut(accented, 29));
+    // A name from the registry slot is cut the same way.
+    Remember(annFolder, "User", "");
+    SetReg("USER1", accented);
+    std::memset(user, 'x', sizeof user);
+    EXPECT_EQ(Last(), "1 " + Cut(accented, 29) + "/" + Cut(accented, 29));
 }
 
 TEST_F(LoginTest, PromptForLoginTurnsTheFolderIntoItsSettingsFile) {
