@@ -2,7 +2,9 @@
 # Stages: the Windows builds with MinGW-w64. x64 builds the core library, vxenv and the core
 # tests and runs the tests under Wine; x86 compiles the core library only.
 
-VX_WIN64_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest "${VX_WINE_PACKAGES[@]}")
+# googletest: the sources under /usr/src/googletest, built with the cross compiler.
+VX_WIN64_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest
+    "${VX_WINE_PACKAGES[@]}")
 VX_WIN32_PACKAGES=(cmake ninja-build g++-mingw-w64-i686-posix)
 VX_WIN64_DIR="$VX_BUILD/win64"
 VX_WIN32_DIR="$VX_BUILD/win32"
