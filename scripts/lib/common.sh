@@ -58,10 +58,16 @@ vx_show_failure() {
 # vx_configure <build folder> [cmake options...]: configures a Ninja build folder (incremental
 # when it exists); the output is kept in configure.log and shown on failure.
 vx_configure() {
-    local dir="$1"
-    shift
+    vx_configure_source "$VX_ROOT" "$@"
+}
+
+# vx_configure_source <source folder> <build folder> [cmake options...]: the same for another
+# source tree (a library that Debian does not package for the target).
+vx_configure_source() {
+    local source="$1" dir="$2"
+    shift 2
     mkdir -p "$dir"
-    if ! cmake -S "$VX_ROOT" -B "$dir" -G Ninja "$@" >"$dir/configure.log" 2>&1 </dev/null; then
+    if ! cmake -S "$source" -B "$dir" -G Ninja "$@" >"$dir/configure.log" 2>&1 </dev/null; then
         vx_note "configure failed:"
         cat "$dir/configure.log"
         return 1
