@@ -12,11 +12,11 @@
 #include "vxutil/decimal/TKErrorHandlers.h"
 #include "vxutil/gnrt/CGNDecimal.h"
 
-namespace {
+#include "FuzzCheck.h"
 
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
+using vx::fuzz::Check;
+
+namespace {
 
 void Ignore(const TKxmsg&) {}
 

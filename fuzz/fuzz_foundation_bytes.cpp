@@ -8,11 +8,11 @@
 
 #include "vxutil/foundation/CVXByteList.h"
 
-namespace {
+#include "FuzzCheck.h"
 
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
+using vx::fuzz::Check;
+
+namespace {
 
 bool SameBytes(const CVXByteList& a, const CVXByteList& b) {
     return a.GetType() == b.GetType() && a.GetLength() == b.GetLength() &&

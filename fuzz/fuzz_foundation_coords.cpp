@@ -7,13 +7,9 @@
 
 #include "vxutil/foundation/CVXCoordList.h"
 
-namespace {
+#include "FuzzCheck.h"
 
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
-
-}  // namespace
+using vx::fuzz::Check;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);

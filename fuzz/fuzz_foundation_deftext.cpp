@@ -9,13 +9,13 @@
 #include "vxutil/foundation/CVXCoreList.h"
 #include "vxutil/foundation/DefinitionText.h"
 
+#include "FuzzCheck.h"
+
+using vx::fuzz::Check;
+
 namespace {
 
 namespace definition = vx::definition;
-
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
 
 // An item of one signed field and one string field, like most records written as text.
 class Item : public CVXListItemStruct {

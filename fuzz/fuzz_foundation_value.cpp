@@ -9,21 +9,12 @@
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
 
-namespace {
+#include "FuzzCheck.h"
 
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
-
-}  // namespace
+using vx::fuzz::Check;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const bool quiet = [] {
-        CGNAssert::SetHandler([](const char*, int, const char*) {});
-        TKSetErrorHandler([](const TKxmsg&) {});
-        return true;
-    }();
-    (void)quiet;
+    vx::fuzz::SilenceReports();
     const std::string text(reinterpret_cast<const char*>(data), size);
     CVXValueStruct value;
     const char* cursor = text.c_str();

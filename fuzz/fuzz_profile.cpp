@@ -9,11 +9,11 @@
 #include "platform/profile/ProfileDocument.h"
 #include "platform/profile/ProfileResult.h"
 
-namespace {
+#include "FuzzCheck.h"
 
-void Check(bool condition) {
-    if (!condition) std::abort();
-}
+using vx::fuzz::Check;
+
+namespace {
 
 // Names and a value taken from the input's last bytes, so that the fuzzer steers them too.
 struct Request {
