@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <type_traits>
 
 #include "foundation/qualifier/NumericValue.h"
 #include "foundation/qualifier/QualifierCodes.h"
@@ -12,61 +13,48 @@ namespace {
 
 using vx::qualifier::Numeric;
 
-bool IntegerResult(std::uint32_t operation, long long a, long long b, CVXValueStruct& result) {
-    long long value = 0;
+// Applies the operation to two operands of one numeric kind; false for a zero divisor. The
+// remainder of reals is fmod's, of integers the % operator's.
+template <typename Number>
+bool Apply(std::uint32_t operation, Number a, Number b, Number& value) {
     switch (operation) {
         case VX_ARITH_OP_ADD:
             value = a + b;
-            break;
+            return true;
         case VX_ARITH_OP_SUBTRACT:
             value = a - b;
-            break;
+            return true;
         case VX_ARITH_OP_MULTIPLY:
             value = a * b;
-            break;
+            return true;
         case VX_ARITH_OP_DIVIDE:
             if (b == 0) return false;
             value = a / b;
-            break;
+            return true;
         case VX_ARITH_OP_MODULO:
             if (b == 0) return false;
-            value = a % b;
-            break;
+            if constexpr (std::is_floating_point_v<Number>)
+                value = std::fmod(a, b);
+            else
+                value = a % b;
+            return true;
         default:
             value = -b;
-            break;
+            return true;
     }
-    // Operands are 32-bit, so every result above is exact in 64 bits.
-    if (value < INT32_MIN || value > INT32_MAX) return false;
+}
+
+bool IntegerResult(std::uint32_t operation, long long a, long long b, CVXValueStruct& result) {
+    long long value = 0;
+    // Operands are 32-bit, so every result is exact in 64 bits.
+    if (!Apply(operation, a, b, value) || value < INT32_MIN || value > INT32_MAX) return false;
     result.SetInteger(static_cast<std::int32_t>(value));
     return true;
 }
 
 bool RealResult(std::uint32_t operation, double a, double b, CVXValueStruct& result) {
     double value = 0;
-    switch (operation) {
-        case VX_ARITH_OP_ADD:
-            value = a + b;
-            break;
-        case VX_ARITH_OP_SUBTRACT:
-            value = a - b;
-            break;
-        case VX_ARITH_OP_MULTIPLY:
-            value = a * b;
-            break;
-        case VX_ARITH_OP_DIVIDE:
-            if (b == 0) return false;
-            value = a / b;
-            break;
-        case VX_ARITH_OP_MODULO:
-            if (b == 0) return false;
-            value = std::fmod(a, b);
-            break;
-        default:
-            value = -b;
-            break;
-    }
-    if (!std::isfinite(value)) return false;
+    if (!Apply(operation, a, b, value) || !std::isfinite(value)) return false;
     result.SetReal(value);
     return true;
 }
