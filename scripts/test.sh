@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds and runs every test: the native build, the sanitizer build, the fuzz targets, the
-# Windows x64 build under Wine and the 32-bit Windows compile. Installs what it needs.
-#   scripts/test.sh [stage...]   stages: linux asan fuzz win64 win32 (default: all, in order)
+# Builds and runs every test: the native build (widget tests offscreen), the widget tests in a
+# real X server, the sanitizer build, the fuzz targets, the Windows x64 build under Wine and the
+# 32-bit Windows compile. Installs what it needs.
+#   scripts/test.sh [stage...]   stages: linux x11 asan fuzz win64 win32 (default: all, in order)
 # Exits non-zero when anything failed. The last line counts the checks passed, failed and skipped:
 # ctest tests, fuzz runs, the 32-bit compile, and a stage that broke before it could test as one.
 set -u -o pipefail
@@ -10,11 +11,12 @@ here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
 source "$here/lib/common.sh"
 source "$here/lib/wine.sh"
 source "$here/stages/linux.sh"
+source "$here/stages/x11.sh"
 source "$here/stages/asan.sh"
 source "$here/stages/fuzz.sh"
 source "$here/stages/windows.sh"
 
-all_stages=(linux asan fuzz win64 win32)
+all_stages=(linux x11 asan fuzz win64 win32)
 stages=("$@")
 [ ${#stages[@]} -gt 0 ] || stages=("${all_stages[@]}")
 
@@ -22,6 +24,7 @@ packages=()
 for stage in "${stages[@]}"; do
     case "$stage" in
     linux) packages+=("${VX_LINUX_PACKAGES[@]}") ;;
+    x11) packages+=("${VX_X11_PACKAGES[@]}") ;;
     asan) packages+=("${VX_ASAN_PACKAGES[@]}") ;;
     fuzz) packages+=("${VX_FUZZ_PACKAGES[@]}") ;;
     win64) packages+=("${VX_WIN64_PACKAGES[@]}") ;;

@@ -108,12 +108,17 @@ vx_count() {
     VX_SKIPPED=$((VX_SKIPPED + ${3:-0}))
 }
 
-# vx_ctest <build folder> <timeout seconds>: runs the folder's tests and adds their counts to the
-# tally. The console shows the failing tests with their output and the summary; the whole
-# transcript stays in ctest.log.
+# vx_ctest <build folder> <timeout seconds> [label]: runs the folder's tests (those with the
+# label only, when one is given) and adds their counts to the tally. The console shows the
+# failing tests with their output and the summary; the whole transcript stays in ctest.log
+# (ctest-<label>.log).
 vx_ctest() {
-    local dir="$1" timeout="$2" log="$1/ctest.log"
-    ctest --test-dir "$dir" --output-on-failure -j "$VX_JOBS" --timeout "$timeout" \
+    local dir="$1" timeout="$2" label="${3:-}" log="$1/ctest.log" only=()
+    if [ -n "$label" ]; then
+        log="$dir/ctest-$label.log"
+        only=(-L "$label")
+    fi
+    ctest --test-dir "$dir" --output-on-failure -j "$VX_JOBS" --timeout "$timeout" "${only[@]}" \
         >"$log" 2>&1 </dev/null
     local status=$?
     local routine='^Internal ctest changing|^ *Start +[0-9]+: '

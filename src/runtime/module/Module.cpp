@@ -74,3 +74,9 @@ void* RGetResourceHandle() {
     if (module == nullptr) return nullptr;
     return module->resources != nullptr ? module->resources->Handle() : module->handle;
 }
+
+const char* RGetResourceLanguage() {
+    const vx::ModuleState* module = vx::g_module;
+    if (module == nullptr || module->resources == nullptr) return "";
+    return module->resources->Language().c_str();
+}
