@@ -21,6 +21,12 @@ constexpr Entry kTable[] = {
      "Error in copying folder '%1' to '%2'.  Unable to copy at least one file.  Please verify "
      "that the paths and privileges are set properly.  Also verify that duplicate files do not "
      "already exist in the target directory, and that the disk is not full."},
+    {kStrNumberOutOfRange,
+     "Invalid number, %s.\nDecimal numbers have the format of \"1234\".\nHexadecimal numbers have "
+     "the format of \"0x1234\".\nPlease enter a valid number.\n\nDecimal range is %d to "
+     "%d.\nHexadecimal range is 0x%X to 0x%X."},
+    {kStrPrivateRpcNumber,
+     "A private server's RPC socket number must be 390600 or in the range of 390680-390694."},
     {kStrLargestFreeBlock, "Largest Free Memory Block"},
     {kStrSwapSpaceSize, "Swap Space Size"},
     {kStrUserHeap, "User Heap"},

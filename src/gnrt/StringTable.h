@@ -8,6 +8,10 @@ enum StringId : unsigned {
     kStrFolderMissingCreate = 3055,
     kStrFolderCreateFailed = 3056,
     kStrFolderCopyFailed = 3057,
+    // Messages of the number cells of the list controls: a number outside the cell's range (the
+    // text, the range in decimal, then in hexadecimal), and a refused private RPC number.
+    kStrNumberOutOfRange = 3060,
+    kStrPrivateRpcNumber = 3061,
     // Labels of the about box's system information.
     kStrLargestFreeBlock = 3401,
     kStrSwapSpaceSize = 3402,
