@@ -12,6 +12,14 @@ enum StringId : unsigned {
     // text, the range in decimal, then in hexadecimal), and a refused private RPC number.
     kStrNumberOutOfRange = 3060,
     kStrPrivateRpcNumber = 3061,
+    // The login dialog.
+    kStrLoginCaption = 3150,
+    kStrLoginUserNameLabel = 3151,
+    kStrLoginPasswordLabel = 3152,
+    kStrLoginAccountsButton = 3153,
+    kStrLoginOkButton = 3154,
+    kStrLoginCancelButton = 3155,
+    kStrLoginFieldTooLong = 3156,
     // Labels of the about box's system information.
     kStrLargestFreeBlock = 3401,
     kStrSwapSpaceSize = 3402,
