@@ -16,8 +16,10 @@ public:
     virtual ~CLoginOwner();
 
     // Called once when the login or accounts dialog `dialog` has been set up; the result becomes
-    // the result of the dialog's own set-up. By default the caption gets the application's title
-    // (caption + " - " + title) and the dialog is centred on its parent; returns 1.
+    // the result of the dialog's own set-up. By default, through the installed
+    // vx::WindowService, the caption gets the client tool's name (RApplication) as
+    // caption + " - " + name, or the name alone when the caption was empty, and the dialog is
+    // centred on its parent; returns 1.
     virtual int OnInitDialog(vx::WindowHandle dialog);
     // Logs `user` in with `password`; exactly 1 means success and lets the login dialog close.
     // Any other value keeps it open: the owner shows its own messages.
