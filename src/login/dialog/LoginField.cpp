@@ -1,0 +1,15 @@
+#include "vxutil/login/LoginField.h"
+
+#include "vxutil/gnrt/MultiByte.h"
+
+namespace vx {
+
+bool FitsLoginField(std::string_view text) {
+    return text.size() <= kLoginFieldMaxBytes;
+}
+
+CGNString FitLoginField(const CGNString& text) {
+    return text.Left(mb::CutLength(text.c_str(), text.GetLength(), kLoginFieldMaxBytes));
+}
+
+}  // namespace vx
