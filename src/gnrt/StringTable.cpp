@@ -27,6 +27,8 @@ constexpr Entry kTable[] = {
      "%d.\nHexadecimal range is 0x%X to 0x%X."},
     {kStrPrivateRpcNumber,
      "A private server's RPC socket number must be 390600 or in the range of 390680-390694."},
+    {kStrDialogBarFont, "Font..."},
+    {kStrDialogBarBackground, "Background..."},
     {kStrLoginCaption, "Login"},
     {kStrLoginUserNameLabel, "&User Name:"},
     {kStrLoginPasswordLabel, "&Password:"},

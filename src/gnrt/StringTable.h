@@ -12,6 +12,9 @@ enum StringId : unsigned {
     // text, the range in decimal, then in hexadecimal), and a refused private RPC number.
     kStrNumberOutOfRange = 3060,
     kStrPrivateRpcNumber = 3061,
+    // The dialog bar's right-click menu.
+    kStrDialogBarFont = 3070,
+    kStrDialogBarBackground = 3071,
     // The login dialog.
     kStrLoginCaption = 3150,
     kStrLoginUserNameLabel = 3151,
