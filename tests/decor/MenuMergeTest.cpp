@@ -113,7 +113,7 @@ TEST(MenuMergeTest, MergesBeforeTheAnchorsOfAMenuBarAndIntoPopupsOfTheSameName) 
         FakeMenu destination(row.destination, row.refused);
         testing::internal::CaptureStderr();
         const int result = vx::MergeMenus(destination, FakeMenu(row.source), row.topLevel);
-        const std::string report = testing::internal::GetCapturedStderr();
+        [[maybe_unused]] const std::string report = testing::internal::GetCapturedStderr();
         EXPECT_EQ(result, *row.report == '\0' ? 1 : 0) << row.source;
         EXPECT_EQ(destination.Layout(), row.merged);
 #ifndef _WIN32  // there the reports go to the debugger

@@ -25,11 +25,4 @@ constexpr int BlueOf(ColorRef color) {
 
 constexpr ColorRef kBlack = MakeColor(0, 0, 0);
 
-// Indexes of the system colours the decoration asks its caller for (GetSysColor numbering).
-enum SystemColorIndex : int {
-    kSysColorActiveCaption = 2,
-    kSysColorCaptionText = 9,
-    kSysColorButtonShadow = 16,
-};
-
 }  // namespace vx
