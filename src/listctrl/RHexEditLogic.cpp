@@ -101,8 +101,9 @@ bool RHexEditLogic::CheckLetter(const CGNString& text, unsigned& ch, char hexFir
         ch = 'x';
         return true;
     }
-    const bool afterPrefix = HasHexPrefix(text) && m_nStartSel >= 2;
-    return afterPrefix && ch >= static_cast<unsigned char>(hexFirst) &&
+    // The letter is already in the test text: when that still begins with "0x", it went in
+    // after the prefix.
+    return HasHexPrefix(text) && ch >= static_cast<unsigned char>(hexFirst) &&
            ch <= static_cast<unsigned char>(hexLast);
 }
 

@@ -9,25 +9,19 @@
 
 namespace vx::test {
 
-class RecordingPrompt : public RUserPrompt {
-public:
+struct RecordingPrompt : RUserPrompt {
     struct Shown {
         WindowHandle parent;
         std::string text;
         unsigned style;
     };
-
-    ~RecordingPrompt() override { RUserPrompt::SetCurrent(m_previous); }
-
+    ~RecordingPrompt() override { RUserPrompt::SetCurrent(previous); }
     int Show(WindowHandle parent, const char* text, const char*, unsigned style) override {
         shown.push_back({parent, text, style});
         return kIdOk;
     }
-
     std::vector<Shown> shown;
-
-private:
-    RUserPrompt* m_previous = RUserPrompt::SetCurrent(this);
+    RUserPrompt* previous = RUserPrompt::SetCurrent(this);
 };
 
 }  // namespace vx::test
