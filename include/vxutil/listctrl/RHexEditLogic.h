@@ -19,8 +19,9 @@ public:
     bool CheckFormat(const CGNString& text) override;
     // Enter runs CheckRange on the window's text.
     bool CheckNonPrintChar(const CGNString& text, unsigned virtualKey) override;
-    // A click inside the window checks its text and, when it is a well-formed number, posts an
-    // Enter key-down so that the range check runs; a malformed text beeps instead.
+    // A click inside the window checks its text's length, format and VerifyHexNumber. When all
+    // pass it posts an Enter key-down so that the range check runs and tells the user; a text
+    // that fails one beeps instead, since the range message would describe a misread number.
     void Click(vx::ClientPoint point) override;
 
     // Whether the value of `text` lies in the range. Outside it, the user is told the range in
