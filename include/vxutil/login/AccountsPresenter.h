@@ -41,6 +41,8 @@ public:
     // OK: stores the server column widths.
     void OnOK();
     int IsDirty() const { return m_nDirty; }
+    // The user the dialog ends on: the caller's user, followed through renames and through the
+    // selection of user rows (the add row and "Default User" are no users).
     const CGNString& GetCurrentUser() const { return m_strCurrentUser; }
 
     // 0 when another row has the same text in `column` (case-sensitive); its index goes to
@@ -78,8 +80,8 @@ public:
     // every selected server row.
     void OnKorvelNotifyToggleBitmap(int row, int column);
     void ToggleSelServerColumn(int column);
-    // 1 when `user` is the current user and the owner is logged in to `server` (letter case
-    // ignored, as host names do).
+    // 1 when `user` is the user the dialog was opened for, whose session the owner holds, and
+    // the owner is logged in to `server` (letter case ignored, as host names do).
     int IsServerLoggedIn(const CGNString& user, const CGNString& server) const;
     // Whether the server of `row` is logged in, as the last fill of the list found.
     bool IsServerRowLoggedIn(int row) const;
@@ -141,6 +143,7 @@ private:
     ListPort& m_users;
     ListPort& m_servers;
     CGNString m_strCurrentUser;
+    const CGNString m_strSessionUser;
     CLoginOwner* m_pOwner;
     CGNString m_strDefaultHomePath;
     std::vector<ServerRow> m_serverRows;  // rows 1 and later of the server list

@@ -37,6 +37,7 @@ AccountsPresenter::AccountsPresenter(AccountsView& view, ListPort& users, ListPo
       m_users(users),
       m_servers(servers),
       m_strCurrentUser(currentUser),
+      m_strSessionUser(currentUser),
       m_pOwner(owner) {}
 
 void AccountsPresenter::OnInitDialog() {

@@ -312,8 +312,8 @@ void AccountsPresenter::ToggleSelServerColumn(int column) {
 
 int AccountsPresenter::IsServerLoggedIn(const CGNString& user, const CGNString& server) const {
     AccountsTrace trace("CLoginPropDlg::IsServerLoggedIn");
-    // The owner's sessions are those of the user it logged in: the current user.
-    if (m_pOwner == nullptr || !(user == m_strCurrentUser)) return 0;
+    // The owner's sessions belong to the user the dialog was opened for.
+    if (m_pOwner == nullptr || !(user == m_strSessionUser)) return 0;
     CGNStringList loggedIn;
     m_pOwner->GetLoggedInServerArray(loggedIn);
     for (const CGNString& name : loggedIn)

@@ -85,6 +85,9 @@ int AccountsPresenter::UpdateUserList() {
 
 void AccountsPresenter::OnItemchangedUserList() {
     AccountsTrace trace("CLoginPropDlg::OnItemchangedUserList");
+    const std::vector<int> selected = m_users.GetSelectedRows();
+    if (!selected.empty() && selected.front() >= kFirstUserRow)
+        m_strCurrentUser = m_users.GetCellText(selected.front(), kUserNameColumn);
     UpdateServerList();
 }
 
@@ -109,6 +112,7 @@ int AccountsPresenter::OnEndLabelEditUserList(int row, int column) {
         const int renamed = RenameUser(row);
         if (renamed) {
             m_nDirty = 1;
+            OnItemchangedUserList();
         } else {
             RestoreOriginal(m_users, row, column);
             ReportStoreFailure(name);
