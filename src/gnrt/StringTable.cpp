@@ -29,6 +29,8 @@ constexpr Entry kTable[] = {
      "A private server's RPC socket number must be 390600 or in the range of 390680-390694."},
     {kStrDialogBarFont, "Font..."},
     {kStrDialogBarBackground, "Background..."},
+    {kStrBrowseFolder, "Browse..."},
+    {kStrSelectFolder, "Select Folder"},
     {kStrAccountsUsers, "Users"},
     {kStrAccountsServers, "Servers"},
     {kStrAccountsUserColumn, "User"},

@@ -15,6 +15,9 @@ enum StringId : unsigned {
     // The dialog bar's right-click menu.
     kStrDialogBarFont = 3070,
     kStrDialogBarBackground = 3071,
+    // The folder cells of the list controls: the browse button and the folder dialog's title.
+    kStrBrowseFolder = 3080,
+    kStrSelectFolder = 3081,
     // The accounts dialog: pane titles, column headers, the fixed rows, messages, menus.
     kStrAccountsUsers = 3100,
     kStrAccountsServers = 3101,
