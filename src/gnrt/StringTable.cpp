@@ -86,6 +86,12 @@ constexpr Entry kTable[] = {
     {kStrLoginFieldTooLong,
      "The user name or the password is too long: each can hold at most 30 characters, fewer "
      "when it contains accented or non-Latin letters."},
+    {kStrLoginShowPassword, "Show password"},
+    {kStrLoginHidePassword, "Hide password"},
+    {kStrLoginCapsLockOn, "Caps Lock is on"},
+    {kStrAboutCaption, "About "},
+    {kStrAboutVersion, "Version %1.%2 (Build %3)"},
+    {kStrAboutSystemInfo, "&System information:"},
     {kStrLargestFreeBlock, "Largest Free Memory Block"},
     {kStrSwapSpaceSize, "Swap Space Size"},
     {kStrUserHeap, "User Heap"},

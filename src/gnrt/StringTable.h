@@ -62,6 +62,15 @@ enum StringId : unsigned {
     kStrLoginOkButton = 3154,
     kStrLoginCancelButton = 3155,
     kStrLoginFieldTooLong = 3156,
+    // The login dialog's password reveal action and Caps Lock hint.
+    kStrLoginShowPassword = 3170,
+    kStrLoginHidePassword = 3171,
+    kStrLoginCapsLockOn = 3172,
+    // The about box: the caption before the product's name, the version line, the label of the
+    // system information.
+    kStrAboutCaption = 3180,
+    kStrAboutVersion = 3181,
+    kStrAboutSystemInfo = 3182,
     // Labels of the about box's system information.
     kStrLargestFreeBlock = 3401,
     kStrSwapSpaceSize = 3402,
