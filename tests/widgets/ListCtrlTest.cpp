@@ -1,6 +1,9 @@
 // The column-edit lists driven by real clicks and keystrokes: which editor a cell gets, the
 // keystroke logic inside number editors, texts that keep an editor open, toggles, fixed columns
 // and per-column menus.
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -186,28 +189,32 @@ private Q_SLOTS:
         QVERIFY(prompt.asked.empty());
     }
 
-    void refusedNumbersKeepTheEditorOpen_data() {
+    void refusedTextsKeepTheEditorOpen_data() {
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("refused");
+        QTest::addColumn<int>("answer");  // to the question about the refused text
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("accepted");
-        QTest::newRow("below range") << int(kPort) << "5"
-                                     << "Invalid number, 5."
+        QTest::newRow("below range") << int(kPort) << "5" << vx::kIdOk << "Invalid number, 5."
                                      << "50";
-        QTest::newRow("rpc rule") << int(kRpc) << "390679"
-                                  << "RPC socket number"
+        QTest::newRow("rpc rule") << int(kRpc) << "390679" << vx::kIdOk << "RPC socket number"
                                   << "390680";
-        QTest::newRow("rpc above") << int(kRpc) << "0x5f5c7"
-                                   << "RPC socket number"
-                                   << "390600";
+        QTest::newRow("rpc hex") << int(kRpc) << "0x5f5c7" << vx::kIdOk << "RPC socket number"
+                                 << "390600";
+        // Not creating a missing folder refuses it; creating it accepts it.
+        const QString missing = qEnvironmentVariable("VX_CONFIG_HOME") + QStringLiteral("/new");
+        QTest::newRow("missing folder") << int(kFolder) << missing << vx::kIdNo
+                                        << "This folder does not exist - create?" << missing;
     }
-    void refusedNumbersKeepTheEditorOpen() {
+    void refusedTextsKeepTheEditorOpen() {
         QFETCH(int, column);
         QFETCH(QString, refused);
+        QFETCH(int, answer);
         QFETCH(QString, message);
         QFETCH(QString, accepted);
         Fixture f;
         vx::test::ScriptedPrompt prompt;
+        prompt.answers = {answer, vx::kIdYes};  // the second for the accepted text, if asked
         QSignalSpy ended(f.list, &CColumnEditListCtrl::editEnded);
         const QString before = f.list->GetItemText(0, column);
         auto* edit = qobject_cast<QLineEdit*>(f.ClickToEdit(0, column));
@@ -228,6 +235,27 @@ private Q_SLOTS:
         QTRY_COMPARE(ended.size(), 1);
         QCOMPARE(f.list->GetItemText(0, column), accepted);
         QVERIFY(!f.list->IsInLabelEditMode());
+    }
+
+    // The folder dialog takes the focus from the editor, which must survive it.
+    void browsedFolderFillsTheOpenEditor() {
+        Fixture f;
+        auto* edit = qobject_cast<vx::FolderBrowseEdit*>(f.ClickToEdit(0, kFolder));
+        QVERIFY(edit != nullptr);
+        const QString chosen = qEnvironmentVariable("VX_CONFIG_HOME");
+        QTimer chooser;
+        connect(&chooser, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+                dialog->setDirectory(chosen);
+                static_cast<QDialog*>(dialog)->accept();  // QFileDialog::accept, as OK does
+            }
+        });
+        chooser.start(50);
+        edit->BrowseAction()->trigger();
+        chooser.stop();
+        QVERIFY(f.EditorOpen(0, kFolder));
+        QCOMPARE(QDir(edit->text()), QDir(chosen));
+        QCOMPARE(f.list->GetItemText(0, kFolder), QStringLiteral("/tmp"));
     }
 
     // The scenario that used to commit the refused text: a real message box takes the focus
