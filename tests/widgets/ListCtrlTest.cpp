@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include "listctrl/qt/ColumnEditDelegate.h"
 #include "listctrl/qt/EditLogicAdapter.h"
 #include "listctrl/qt/FolderBrowseEdit.h"
 #include "support/ScriptedPrompt.h"
@@ -35,6 +36,10 @@ public:
                CKorvelListCtrl::IsEditTextValid(row, column, text);
     }
     void EndLabelEdit(int, int, const QString& text) override { ended << text; }
+    // Only the first row's toggle is on.
+    vx::ColumnImage GetImage(int row, int) override {
+        return row == 0 ? LoadSystemCheckMarkBitmap() : 0;
+    }
 };
 
 // A shown and active window with one list: a row per server, every column edited directly.
@@ -54,6 +59,7 @@ struct Fixture {
         }
         list->EnableColumnToggle(kToggle, true, kToggleCommand);
         list->EnableColumnSize(kToggle, false);
+        list->EnableColumnImageOverlay(kToggle, CColumnEditListCtrl::LoadSystemCheckBoxBitmap());
         list->SetColumnRange(kPort, 10, 65535);
         for (int row = 0; row < 3; ++row) {
             list->InsertItem(row, QStringLiteral("server%1").arg(row));
@@ -315,6 +321,13 @@ private Q_SLOTS:
 
     void togglesPostCommandsAndReportImageClicks() {
         Fixture f;
+        const auto toggleImage = [&](int row) {
+            const QRect cell = f.list->visualRect(f.Index(row, kToggle));
+            const QRect image = vx::ColumnEditDelegate::ToggleImageRect(cell, f.list->style());
+            return f.list->viewport()->grab(image).toImage();
+        };
+        QVERIFY(toggleImage(0) != toggleImage(1));  // a checked box, an empty one
+        QCOMPARE(toggleImage(1), toggleImage(2));
         QSignalSpy posted(f.list, &CKorvelListCtrl::commandPosted);
         QSignalSpy imageClicked(f.list, &CColumnEditListCtrl::toggleBitmapClicked);
         const QPoint belowRows(f.CellCenter(0, kToggle).x(), f.list->viewport()->height() - 5);

@@ -31,6 +31,7 @@ public:
     // Posts the column's toggle command (commandPosted) when the column exists and toggles.
     void ToggleValue(int column);
     bool EnableDirectEdit(int column, bool enable);
+    // Note the order, column first: an override must keep it.
     virtual bool IsDirectEdit(int column, int row);
     // Posts the start of the edit of the cell when the column exists and is edited directly;
     // a row of -1 (a click below the last row) starts nothing.
