@@ -77,6 +77,8 @@ constexpr Entry kTable[] = {
     {kStrAccountsYes, "Yes"},
     {kStrAccountsNo, "No"},
     {kStrAccountsDefaultPort, "(default)"},
+    {kStrAccountsCaption, "Accounts"},
+    {kStrAccountsAdvancedOptions, "&Advanced server options"},
     {kStrLoginCaption, "Login"},
     {kStrLoginUserNameLabel, "&User Name:"},
     {kStrLoginPasswordLabel, "&Password:"},

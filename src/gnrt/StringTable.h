@@ -54,6 +54,8 @@ enum StringId : unsigned {
     kStrAccountsYes = 3133,
     kStrAccountsNo = 3134,
     kStrAccountsDefaultPort = 3135,
+    kStrAccountsCaption = 3136,
+    kStrAccountsAdvancedOptions = 3137,
     // The login dialog.
     kStrLoginCaption = 3150,
     kStrLoginUserNameLabel = 3151,
