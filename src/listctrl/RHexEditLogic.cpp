@@ -4,7 +4,7 @@
 #include <climits>
 #include <string>
 
-#include "listctrl/RangeMessage.h"
+#include "vxutil/listctrl/RangeMessage.h"
 #include "vxutil/listctrl/VirtualKeys.h"
 #include "vxutil/runtime/RUserPrompt.h"
 #include "vxutil/runtime/RUtils.h"

@@ -1,4 +1,4 @@
-#include "listctrl/RangeMessage.h"
+#include "vxutil/listctrl/RangeMessage.h"
 
 #include <cstdio>
 #include <initializer_list>

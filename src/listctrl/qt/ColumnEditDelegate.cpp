@@ -13,7 +13,7 @@
 #include <memory>
 
 #include "gnrt/StringTable.h"
-#include "listctrl/RangeMessage.h"
+#include "vxutil/listctrl/RangeMessage.h"
 #include "listctrl/qt/EditLogicAdapter.h"
 #include "listctrl/qt/FolderBrowseEdit.h"
 #include "vxutil/listctrl/RHexEditLogic.h"

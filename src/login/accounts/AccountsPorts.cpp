@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <iterator>
 
-#include "listctrl/RangeMessage.h"
+#include "vxutil/listctrl/RangeMessage.h"
 #include "login/accounts/AccountsPrompts.h"
 #include "login/accounts/AccountsSettings.h"
 #include "login/accounts/AccountsText.h"
