@@ -28,7 +28,8 @@ void CaptionStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
     const QRect iconArea = subControlRect(CC_TitleBar, title, SC_TitleBarSysMenu, widget);
     if (!title->icon.isNull() && iconArea.isValid()) title->icon.paint(painter, iconArea);
-    const QRect label = subControlRect(CC_TitleBar, title, SC_TitleBarLabel, widget);
+    QRect label = subControlRect(CC_TitleBar, title, SC_TitleBarLabel, widget);
+    if (iconArea.isValid()) label.setLeft(qMax(label.left(), iconArea.right() + 4));
     painter->save();
     painter->setPen(title->palette.color(active ? QPalette::Active : QPalette::Inactive,
                                          QPalette::HighlightedText));
