@@ -13,6 +13,18 @@
 namespace vx {
 namespace {
 
+// `name` with the letter case of every ASCII letter turned round.
+std::string FlipCase(std::string name) {
+    for (char& c : name) {
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 'a' + 'A');
+        } else if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
+    }
+    return name;
+}
+
 bool IsFolder(const std::string& path) {
     struct stat info {};
     return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
@@ -120,20 +132,38 @@ bool CopyFileKeepingTarget(const std::string& source, const std::string& target)
 }
 
 bool StoredName(const std::string& folder, const std::string& name, std::string& stored) {
-    std::vector<FolderEntry> entries;
-    if (!ListFolder(folder, entries)) return false;
-    bool found = false;
-    for (const FolderEntry& entry : entries) {
-        if (entry.name == name) {
+    const auto inFolder = [&folder](const std::string& entry) {
+        return !folder.empty() && folder.back() == '/' ? folder + entry : folder + '/' + entry;
+    };
+    // The usual case, without listing the folder: the exact name exists, and its case-flipped
+    // spelling is another file or none, so the file system tells letter case apart and the
+    // name is stored as given.
+    struct stat exact {};
+    if (::lstat(inFolder(name).c_str(), &exact) == 0) {
+        const std::string flipped = FlipCase(name);
+        struct stat other {};
+        if (flipped == name || ::lstat(inFolder(flipped).c_str(), &other) != 0 ||
+            other.st_dev != exact.st_dev || other.st_ino != exact.st_ino) {
             stored = name;
             return true;
         }
-        // Case-insensitive file systems (mounted FAT or SMB shares) store their own spelling.
-        if (!found && ::strcasecmp(entry.name.c_str(), name.c_str()) == 0) {
-            stored = entry.name;
+    }
+    // Case-insensitive file systems (mounted FAT or SMB shares) store their own spelling.
+    DIR* dir = ::opendir(folder.c_str());
+    if (dir == nullptr) return false;
+    bool found = false;
+    while (const dirent* entry = ::readdir(dir)) {
+        if (entry->d_name == name) {
+            stored = name;
+            found = true;
+            break;
+        }
+        if (!found && ::strcasecmp(entry->d_name, name.c_str()) == 0) {
+            stored = entry->d_name;
             found = true;
         }
     }
+    ::closedir(dir);
     return found;
 }
 
