@@ -14,6 +14,7 @@ source "$here/stages/linux.sh"
 # Build progress goes to stderr so that stdout is vxdemo's own output.
 {
     vx_need_packages "${VX_LINUX_PACKAGES[@]}" &&
+        vx_need_packages --no-recommends "${VX_QT_PACKAGES[@]}" &&
         vx_configure "$VX_LINUX_DIR" "${VX_LINUX_OPTIONS[@]}" &&
         vx_build "$VX_LINUX_DIR" vxdemo vxenv vxutil_catalogues
 } >&2 || exit 1

@@ -21,10 +21,17 @@ stages=("$@")
 [ ${#stages[@]} -gt 0 ] || stages=("${all_stages[@]}")
 
 packages=()
+qt_packages=()
 for stage in "${stages[@]}"; do
     case "$stage" in
-    linux) packages+=("${VX_LINUX_PACKAGES[@]}") ;;
-    x11) packages+=("${VX_X11_PACKAGES[@]}") ;;
+    linux)
+        packages+=("${VX_LINUX_PACKAGES[@]}")
+        qt_packages+=("${VX_QT_PACKAGES[@]}")
+        ;;
+    x11)
+        packages+=("${VX_X11_PACKAGES[@]}")
+        qt_packages+=("${VX_X11_QT_PACKAGES[@]}")
+        ;;
     asan) packages+=("${VX_ASAN_PACKAGES[@]}") ;;
     fuzz) packages+=("${VX_FUZZ_PACKAGES[@]}") ;;
     win64) packages+=("${VX_WIN64_PACKAGES[@]}") ;;
@@ -41,8 +48,14 @@ trap 'exit 130' INT TERM
 
 vx_banner "setup"
 mapfile -t packages < <(printf '%s\n' "${packages[@]}" | sort -u)
-if ! vx_need_packages "${packages[@]}"; then
-    echo "could not install the packages the tests need: ${packages[*]}" >&2
+installed=1
+vx_need_packages "${packages[@]}" || installed=0
+if [ ${#qt_packages[@]} -gt 0 ]; then
+    mapfile -t qt_packages < <(printf '%s\n' "${qt_packages[@]}" | sort -u)
+    vx_need_packages --no-recommends "${qt_packages[@]}" || installed=0
+fi
+if [ $installed -eq 0 ]; then
+    echo "could not install the packages the tests need: ${packages[*]} ${qt_packages[*]}" >&2
     exit 1
 fi
 # The tests of the user's number format need a locale with a decimal comma.

@@ -16,9 +16,13 @@ vx_note() {
 }
 
 # Installs the Debian packages that are missing; does nothing, and needs no network, when all
-# are present.
+# are present. With --no-recommends first, only what they depend on comes along.
 vx_need_packages() {
-    local missing=() package
+    local missing=() package options=()
+    if [ "${1:-}" = --no-recommends ]; then
+        options=(--no-install-recommends)
+        shift
+    fi
     for package in "$@"; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
             missing+=("$package")
@@ -31,7 +35,8 @@ vx_need_packages() {
     # Another apt run (an engineer's, or the machine's own) may hold the lock for a while.
     local lock=(-o DPkg::Lock::Timeout=600)
     "${sudo[@]}" apt-get "${lock[@]}" update -qq </dev/null &&
-        "${sudo[@]}" apt-get "${lock[@]}" install -y -qq "${missing[@]}" </dev/null >/dev/null
+        "${sudo[@]}" apt-get "${lock[@]}" install -y -qq "${options[@]}" "${missing[@]}" \
+            </dev/null >/dev/null
 }
 
 # vx_need_locale <language_TERRITORY>: makes the UTF-8 locale available (package locales), for

@@ -2,8 +2,10 @@
 # Stage: the native build (gcc, RelWithDebInfo) with the Qt widgets, and every test; the widget
 # tests run offscreen here.
 
-VX_LINUX_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext locales
-    qt6-base-dev fonts-dejavu-core qt6-translations-l10n)
+VX_LINUX_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext locales)
+# Installed without their recommendations (a desktop's platform theme among them), so that runs
+# are the same everywhere.
+VX_QT_PACKAGES=(qt6-base-dev fonts-dejavu-core qt6-translations-l10n)
 VX_LINUX_DIR="$VX_BUILD/linux"
 VX_LINUX_OPTIONS=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=g++
     -DVXUTIL_BUILD_WIDGETS=ON)

@@ -2,7 +2,8 @@
 # Stage: the widget tests once more in a real X server (Xvfb, without a window manager), over
 # the native build of the linux stage.
 
-VX_X11_PACKAGES=("${VX_LINUX_PACKAGES[@]}" xvfb xauth)
+VX_X11_PACKAGES=("${VX_LINUX_PACKAGES[@]}")
+VX_X11_QT_PACKAGES=("${VX_QT_PACKAGES[@]}" xvfb xauth)
 
 stage_x11() {
     vx_configure "$VX_LINUX_DIR" "${VX_LINUX_OPTIONS[@]}" &&
