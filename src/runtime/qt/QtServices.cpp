@@ -5,6 +5,7 @@
 #include <QTranslator>
 #include <memory>
 
+#include "login/qt/QtWindowService.h"
 #include "runtime/qt/QtMessageBackend.h"
 #include "runtime/qt/QtUserPrompt.h"
 #include "runtime/qt/QtWindowUpdateLocker.h"
@@ -21,6 +22,8 @@ constexpr unsigned kDefaultFrequency = 250;
 struct QtServices {
     QtUserPrompt prompt;
     RUserPrompt* previousPrompt = nullptr;
+    QtWindowService windows;
+    WindowService* previousWindows = nullptr;
     StringTableTranslator strings;
     QTranslator qtTexts;
 #ifndef _WIN32
@@ -52,6 +55,7 @@ void InstallQtServices() {
         return;
     g_services = new QtServices;
     g_services->previousPrompt = RUserPrompt::SetCurrent(&g_services->prompt);
+    g_services->previousWindows = WindowService::SetCurrent(&g_services->windows);
     QCoreApplication::installTranslator(&g_services->strings);
     LoadQtTranslations(g_services->qtTexts);
 #ifndef _WIN32
@@ -67,6 +71,7 @@ void InstallQtServices() {
 void RemoveQtServices() {
     if (g_services == nullptr) return;
     RUserPrompt::SetCurrent(g_services->previousPrompt);
+    WindowService::SetCurrent(g_services->previousWindows);
 #ifndef _WIN32
     RLockWindowUpdate::SetLocker(g_services->previousLocker);
     if (RMessageStation::Module() == g_services->station.get())

@@ -1,6 +1,7 @@
 // The Qt implementations of the core's services: message boxes for RUserPrompt, Qt timers and
-// events for the message station, setUpdatesEnabled for RLockWindowUpdate, and the string table
-// as a translator (with Qt's own translations in the same language).
+// events for the message station, setUpdatesEnabled for RLockWindowUpdate, captions and centring
+// of widgets for the core's window service, and the string table as a translator (with Qt's own
+// translations in the same language).
 //
 // A Qt application that loads vxutil_widgets gets them installed when its QCoreApplication is
 // constructed (or at once, when the library is loaded later) and removed when it is destroyed.
