@@ -23,6 +23,21 @@ qreal TabStopFor(const QString& text, const QFontMetricsF& metrics) {
     return widest + 2 * metrics.horizontalAdvance(u' ');
 }
 
+// Wide enough to show every line without scrolling (tabs at `tabStop`), up to a sane limit.
+int WidthFor(const QString& text, const QFontMetricsF& metrics, qreal tabStop) {
+    constexpr qreal kMostWidth = 720;
+    qreal widest = 0;
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        const qsizetype tab = line.indexOf(u'\t');
+        const qreal width = tab < 0
+                                ? metrics.horizontalAdvance(line.toString())
+                                : tabStop + metrics.horizontalAdvance(line.mid(tab + 1).toString());
+        widest = std::max(widest, width);
+    }
+    // Room for the frame, the document margins and a vertical scroll bar.
+    return qRound(std::min(widest, kMostWidth)) + 40;
+}
+
 void ShowPixmap(QLabel& label, const QPixmap& pixmap) {
     label.setPixmap(pixmap);
     label.setVisible(!pixmap.isNull());
@@ -51,8 +66,10 @@ CAboutDlg::CAboutDlg(const QString& productName, quint16 majorVersion, quint16 m
     ShowPixmap(*ui.bitmapLabel, bitmap);
 
     const QString info = vx::ToQString(ClientGetSystemInfo());
-    ui.systemInfo->setTabStopDistance(TabStopFor(info, QFontMetricsF(ui.systemInfo->font())));
+    const QFontMetricsF metrics(ui.systemInfo->font());
+    ui.systemInfo->setTabStopDistance(TabStopFor(info, metrics));
     ui.systemInfo->setPlainText(info);
+    ui.systemInfo->setMinimumWidth(WidthFor(info, metrics, ui.systemInfo->tabStopDistance()));
 }
 
 CAboutDlg::~CAboutDlg() = default;
