@@ -2,15 +2,11 @@
 #pragma once
 
 #include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
 
 namespace vx::appenv {
 
-class AppEnvTrace : public RMethodTrace {
-public:
-    // `method` is "CAppEnv::" and the operation's name.
-    explicit AppEnvTrace(const char* method)
-        : RMethodTrace("RAppEnvironment", method, kTraceAllLevels) {}
-};
+inline constexpr char kTraceSource[] = "RAppEnvironment";
+// Opened with "CAppEnv::" and the operation's name.
+using AppEnvTrace = RSourceTrace<kTraceSource>;
 
 }  // namespace vx::appenv

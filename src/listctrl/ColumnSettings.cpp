@@ -2,13 +2,10 @@
 
 #include <utility>
 
-#include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
+#include "listctrl/ListTrace.h"
 
 namespace vx {
 namespace {
-
-constexpr const char* kTraceSource = "RListCtrl";
 
 // The per-column arrays grow on demand; a column beyond an array has no entry (0).
 template <typename T>
@@ -34,7 +31,7 @@ bool ColumnSettings::ColumnExists(int column) const {
 }
 
 bool ColumnSettings::EnableColumnType(int column, unsigned type) {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::EnableColumnType", kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::EnableColumnType");
     if (type < kCellText || type > kCellPrivateNumber) return false;
     if (column == -1) {
         m_nDefaultType = type;
@@ -46,38 +43,37 @@ bool ColumnSettings::EnableColumnType(int column, unsigned type) {
 }
 
 unsigned ColumnSettings::GetColumnType(int column) const {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::GetColumnType", kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::GetColumnType");
     const unsigned own = EntryAt(m_types, column);
     return own != 0 ? own : m_nDefaultType;
 }
 
 bool ColumnSettings::EnableColumnImage(int column, ColumnImage image) {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::EnableColumnImage", kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::EnableColumnImage");
     if (!ColumnExists(column)) return false;
     StoreAt(m_images, column, image);
     return true;
 }
 
 ColumnImage ColumnSettings::GetColumnImage(int column) const {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::GetColumnImage", kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::GetColumnImage");
     return EntryAt(m_images, column);
 }
 
 bool ColumnSettings::EnableColumnImageOverlay(int column, ColumnImage image) {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::EnableColumnImageOverlay",
-                       kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::EnableColumnImageOverlay");
     if (!ColumnExists(column)) return false;
     StoreAt(m_overlays, column, image);
     return true;
 }
 
 ColumnImage ColumnSettings::GetColumnImageOverlay(int column) const {
-    RMethodTrace trace(kTraceSource, "CColumnEditListCtrl::GetColumnImageOverlay", kTraceAllLevels);
+    ListTrace trace("CColumnEditListCtrl::GetColumnImageOverlay");
     return EntryAt(m_overlays, column);
 }
 
 bool ColumnSettings::EnableContextMenu(int column, int menuId) {
-    RMethodTrace trace(kTraceSource, "CColumnMenuListCtrl::EnableContextMenu", kTraceAllLevels);
+    ListTrace trace("CColumnMenuListCtrl::EnableContextMenu");
     if (column == -1) {
         m_nDefaultMenu = menuId;
         return true;
@@ -93,19 +89,19 @@ int ColumnSettings::GetContextMenu(int column) const {
 }
 
 bool ColumnSettings::EnableColumnSize(int column, bool enable) {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::EnableColumnSize", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::EnableColumnSize");
     if (column < 0) return false;
     StoreAt(m_notSizable, column, enable ? 0u : 1u);
     return true;
 }
 
 bool ColumnSettings::CanColumnSize(int column) const {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::CanColumnSize", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::CanColumnSize");
     return ColumnExists(column) && EntryAt(m_notSizable, column) == 0;
 }
 
 bool ColumnSettings::EnableColumnToggle(int column, bool enable, unsigned commandId) {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::EnableColumnToggle", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::EnableColumnToggle");
     if (column < 0) return false;
     StoreAt(m_toggle, column, enable ? 1u : 0u);
     StoreAt(m_toggleCommands, column, commandId);
@@ -113,7 +109,7 @@ bool ColumnSettings::EnableColumnToggle(int column, bool enable, unsigned comman
 }
 
 bool ColumnSettings::CanToggle(int column) const {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::CanToggle", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::CanToggle");
     return EntryAt(m_toggle, column) != 0;
 }
 
@@ -122,14 +118,14 @@ unsigned ColumnSettings::GetToggleCommand(int column) const {
 }
 
 bool ColumnSettings::EnableDirectEdit(int column, bool enable) {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::EnableDirectEdit", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::EnableDirectEdit");
     if (column < 0) return false;
     StoreAt(m_directEdit, column, enable ? 1u : 0u);
     return true;
 }
 
 bool ColumnSettings::IsDirectEdit(int column) const {
-    RMethodTrace trace(kTraceSource, "CKorvelListCtrl::IsDirectEdit", kTraceAllLevels);
+    ListTrace trace("CKorvelListCtrl::IsDirectEdit");
     return EntryAt(m_directEdit, column) != 0;
 }
 

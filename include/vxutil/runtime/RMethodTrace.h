@@ -5,6 +5,7 @@
 #include <string>
 
 #include "vxutil/export.h"
+#include "vxutil/runtime/RTrace.h"
 
 class VXUTIL_API RMethodTrace {
 public:
@@ -23,4 +24,13 @@ private:
     std::string m_strSource;
     std::string m_strMethod;
     unsigned long m_nLevel;
+};
+
+// The scope of one subsystem's operations, at every trace level under the subsystem's source
+// name: `inline constexpr char kSource[] = "RListCtrl"; using ListTrace = RSourceTrace<kSource>;`
+// then `ListTrace trace("CKorvelListCtrl::ToggleValue");`.
+template <const char* Source>
+class RSourceTrace : public RMethodTrace {
+public:
+    explicit RSourceTrace(const char* method) : RMethodTrace(Source, method, kTraceAllLevels) {}
 };

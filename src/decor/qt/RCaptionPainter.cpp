@@ -7,10 +7,10 @@
 #include "decor/qt/CaptionStyle.h"
 #include "decor/qt/ColorRefQt.h"
 #include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
 
 namespace {
-constexpr const char* kTraceSource = "RCaptionPainter";
+constexpr char kTraceSource[] = "RCaptionPainter";
+using CaptionTrace = RSourceTrace<kTraceSource>;
 }  // namespace
 
 RCaptionPainter::RCaptionPainter() = default;
@@ -20,7 +20,7 @@ RCaptionPainter::~RCaptionPainter() {
 }
 
 int RCaptionPainter::Install(QWidget* window, unsigned activeGradient) {
-    RMethodTrace trace(kTraceSource, "RCaptionPainter::Install", kTraceAllLevels);
+    CaptionTrace trace("RCaptionPainter::Install");
     if (window == nullptr) return 0;
     UnInstall();
     m_window = window;
@@ -34,7 +34,7 @@ int RCaptionPainter::Install(QWidget* window, unsigned activeGradient) {
 }
 
 void RCaptionPainter::UnInstall() {
-    RMethodTrace trace(kTraceSource, "RCaptionPainter::UnInstall", kTraceAllLevels);
+    CaptionTrace trace("RCaptionPainter::UnInstall");
     if (m_window != nullptr && m_style != nullptr) {
         m_window->setStyle(nullptr);
         delete m_style;

@@ -9,12 +9,12 @@
 #include "decor/qt/LogFontQt.h"
 #include "gnrt/StringTable.h"
 #include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
 #include "vxutil/runtime/qt/QtText.h"
 
 namespace {
 
-constexpr const char* kTraceSource = "RDialogBar";
+constexpr char kTraceSource[] = "RDialogBar";
+using BarTrace = RSourceTrace<kTraceSource>;
 
 // The system colours a bar falls back on, as Qt's palette names them.
 vx::DialogBarSystemColors SystemColors(const QPalette& palette) {
@@ -35,7 +35,7 @@ RDialogBar::RDialogBar(QWidget* parent) : QFrame(parent), m_label(new QLabel(thi
 }
 
 int RDialogBar::CreateBar(QWidget* parent, unsigned, unsigned barId) {
-    RMethodTrace trace(kTraceSource, "RDialogBar::CreateBar", kTraceAllLevels);
+    BarTrace trace("RDialogBar::CreateBar");
     if (parent == nullptr) return 0;
     setParent(parent);
     setObjectName(QStringLiteral("dialogBar_%1").arg(barId));
@@ -58,7 +58,7 @@ QString RDialogBar::GetDisplayText() const {
 }
 
 void RDialogBar::SetDisplayTextColor(RDialogBar* source, int redraw, int store, int broadcast) {
-    RMethodTrace trace(kTraceSource, "RDialogBar::SetDisplayTextColor", kTraceAllLevels);
+    BarTrace trace("RDialogBar::SetDisplayTextColor");
     const QColor color = source != nullptr ? source->m_text : GetTextColor();
     if (store) SaveRegistryTextColor(color);
     SetBarTextColor(color);
@@ -67,7 +67,7 @@ void RDialogBar::SetDisplayTextColor(RDialogBar* source, int redraw, int store, 
 }
 
 void RDialogBar::SetDisplayBkColor(RDialogBar* source, int redraw, int store, int broadcast) {
-    RMethodTrace trace(kTraceSource, "RDialogBar::SetDisplayBkColor", kTraceAllLevels);
+    BarTrace trace("RDialogBar::SetDisplayBkColor");
     const QColor color = source != nullptr ? source->m_background : GetBkgndColor();
     if (store) SaveRegistryBkgndColor(color);
     SetBarBkgnd(color);
@@ -76,7 +76,7 @@ void RDialogBar::SetDisplayBkColor(RDialogBar* source, int redraw, int store, in
 }
 
 void RDialogBar::SetDisplayFont(RDialogBar* source, int redraw, int store, int broadcast) {
-    RMethodTrace trace(kTraceSource, "RDialogBar::SetDisplayFont", kTraceAllLevels);
+    BarTrace trace("RDialogBar::SetDisplayFont");
     const vx::LogFont font = source != nullptr ? source->m_font : GetTextFont();
     if (store) SaveRegistryTextFont(font);
     SetBarFont(font);
@@ -85,7 +85,7 @@ void RDialogBar::SetDisplayFont(RDialogBar* source, int redraw, int store, int b
 }
 
 void RDialogBar::OnFontChange() {
-    RMethodTrace trace(kTraceSource, "RDialogBar::OnFontChange", kTraceAllLevels);
+    BarTrace trace("RDialogBar::OnFontChange");
     const std::optional<QFont> chosen =
         vx::DialogBarChooser::Current().ChooseFont(window(), m_label->font());
     if (!chosen) return;
@@ -94,7 +94,7 @@ void RDialogBar::OnFontChange() {
 }
 
 void RDialogBar::OnBkgndColorChange() {
-    RMethodTrace trace(kTraceSource, "RDialogBar::OnBkgndColorChange", kTraceAllLevels);
+    BarTrace trace("RDialogBar::OnBkgndColorChange");
     const std::optional<QColor> chosen =
         vx::DialogBarChooser::Current().ChooseColor(window(), m_background);
     if (!chosen) return;

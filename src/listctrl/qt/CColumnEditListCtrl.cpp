@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "listctrl/qt/ColumnEditDelegate.h"
-#include "listctrl/qt/ListTrace.h"
+#include "listctrl/ListTrace.h"
 
 namespace {
 

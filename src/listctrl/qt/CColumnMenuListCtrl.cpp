@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <utility>
 
-#include "listctrl/qt/ListTrace.h"
+#include "listctrl/ListTrace.h"
 
 CColumnMenuListCtrl::CColumnMenuListCtrl(QWidget* parent) : CColumnEditListCtrl(parent) {}
 

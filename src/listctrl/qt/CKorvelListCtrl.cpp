@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QStandardItemModel>
 
-#include "listctrl/qt/ListTrace.h"
+#include "listctrl/ListTrace.h"
 #include "vxutil/listctrl/ItemEnabledData.h"
 
 CKorvelListCtrl::CKorvelListCtrl(QWidget* parent) : CColumnMenuListCtrl(parent) {

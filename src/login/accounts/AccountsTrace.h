@@ -2,16 +2,12 @@
 #pragma once
 
 #include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
 
 namespace vx::accounts {
 
-class AccountsTrace : public RMethodTrace {
-public:
-    // `method` is the class ("CLoginPropDlg", "CUserList", "CServerList"), "::" and the
-    // operation's name.
-    explicit AccountsTrace(const char* method)
-        : RMethodTrace("RAccountsDialog", method, kTraceAllLevels) {}
-};
+inline constexpr char kTraceSource[] = "RAccountsDialog";
+// Opened with the class ("CLoginPropDlg", "CUserList", "CServerList"), "::" and the operation's
+// name.
+using AccountsTrace = RSourceTrace<kTraceSource>;
 
 }  // namespace vx::accounts

@@ -2,15 +2,11 @@
 #pragma once
 
 #include "vxutil/runtime/RMethodTrace.h"
-#include "vxutil/runtime/RTrace.h"
 
 namespace vx::login {
 
-class LoginDialogTrace : public RMethodTrace {
-public:
-    // `method` is the class, "::" and the operation's name ("CLoginDlg::OnOK").
-    explicit LoginDialogTrace(const char* method)
-        : RMethodTrace("RLoginDialog", method, kTraceAllLevels) {}
-};
+inline constexpr char kTraceSource[] = "RLoginDialog";
+// Opened with the class, "::" and the operation's name ("CLoginDlg::OnOK").
+using LoginDialogTrace = RSourceTrace<kTraceSource>;
 
 }  // namespace vx::login
