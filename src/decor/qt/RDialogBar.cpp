@@ -62,8 +62,7 @@ void RDialogBar::SetDisplayTextColor(RDialogBar* source, int redraw, int store, 
     const QColor color = source != nullptr ? source->m_text : GetTextColor();
     if (store) SaveRegistryTextColor(color);
     SetBarTextColor(color);
-    if (redraw) update();
-    if (broadcast) Q_EMIT vx::DialogBarHub::Instance().lookChanged();
+    Publish(redraw, broadcast);
 }
 
 void RDialogBar::SetDisplayBkColor(RDialogBar* source, int redraw, int store, int broadcast) {
@@ -71,8 +70,7 @@ void RDialogBar::SetDisplayBkColor(RDialogBar* source, int redraw, int store, in
     const QColor color = source != nullptr ? source->m_background : GetBkgndColor();
     if (store) SaveRegistryBkgndColor(color);
     SetBarBkgnd(color);
-    if (redraw) update();
-    if (broadcast) Q_EMIT vx::DialogBarHub::Instance().lookChanged();
+    Publish(redraw, broadcast);
 }
 
 void RDialogBar::SetDisplayFont(RDialogBar* source, int redraw, int store, int broadcast) {
@@ -80,8 +78,7 @@ void RDialogBar::SetDisplayFont(RDialogBar* source, int redraw, int store, int b
     const vx::LogFont font = source != nullptr ? source->m_font : GetTextFont();
     if (store) SaveRegistryTextFont(font);
     SetBarFont(font);
-    if (redraw) update();
-    if (broadcast) Q_EMIT vx::DialogBarHub::Instance().lookChanged();
+    Publish(redraw, broadcast);
 }
 
 void RDialogBar::OnFontChange() {
@@ -90,7 +87,7 @@ void RDialogBar::OnFontChange() {
         vx::DialogBarChooser::Current().ChooseFont(window(), m_label->font());
     if (!chosen) return;
     SaveRegistryTextFont(vx::MergeQFont(m_font, *chosen, font()));
-    Q_EMIT vx::DialogBarHub::Instance().lookChanged();
+    Publish(0, 1);
 }
 
 void RDialogBar::OnBkgndColorChange() {
@@ -99,7 +96,12 @@ void RDialogBar::OnBkgndColorChange() {
         vx::DialogBarChooser::Current().ChooseColor(window(), m_background);
     if (!chosen) return;
     SaveRegistryBkgndColor(*chosen);
-    Q_EMIT vx::DialogBarHub::Instance().lookChanged();
+    Publish(0, 1);
+}
+
+void RDialogBar::Publish(int redraw, int broadcast) {
+    if (redraw) update();
+    if (broadcast) Q_EMIT vx::DialogBarHub::Instance().lookChanged();
 }
 
 void RDialogBar::SetBarTextColor(const QColor& color) {

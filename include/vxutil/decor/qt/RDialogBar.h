@@ -80,6 +80,9 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    // After a look was taken over: repaints this bar, and has every open bar take the stored
+    // look again.
+    void Publish(int redraw, int broadcast);
     // Every bar takes the stored look again after one of them changed it.
     void ReloadLook();
 
