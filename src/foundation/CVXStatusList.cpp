@@ -1,10 +1,10 @@
 #include "vxutil/foundation/CVXStatusList.h"
 
-#include "foundation/MessageFormat.h"
 #include "foundation/RecordLists.h"
 #include "vxutil/foundation/VXMessageCatalog.h"
 #include "vxutil/gnrt/CGNDateTime.h"
 #include "vxutil/gnrt/OSLoadString.h"
+#include "vxutil/runtime/MessageText.h"
 
 namespace {
 
@@ -32,7 +32,8 @@ CGNString TextOf(std::int32_t number, const CGNString& callerText) {
     CGNString min;
     CGNString max;
     if (RangeOf(number, min, max)) {
-        return vx::message::FormatStrings(text, {callerText.c_str(), min.c_str(), max.c_str()});
+        return vx::FillConversions(text.view(),
+                                   {{callerText.c_str()}, {min.c_str()}, {max.c_str()}});
     }
     return text;
 }
