@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <memory>
 
 #include "support/ScriptedPrompt.h"
 #include "support/WidgetTestMain.h"
@@ -20,11 +19,9 @@
 #include "vxutil/login/qt/CLoginPropDlg.h"
 #include "vxutil/runtime/qt/QtText.h"
 
-namespace {
+using vx::FromQString;
 
-CGNString Local(const QString& text) {
-    return vx::FromQString(text);
-}
+namespace {
 
 QStringList StoredUsers() {
     CGNStringList names, folders;
@@ -39,60 +36,33 @@ QString Setting(const char* entry) {
     return vx::ToQString(RApplication::Current()->GetProfileString("Desktop", entry, "-"));
 }
 
+void Click(CKorvelListCtrl* list, int row, int column, Qt::KeyboardModifiers modifiers = {}) {
+    const QPoint at = list->visualRect(list->model()->index(row, column)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, at);
+}
+
+// Types over the text of the open editor of a cell and presses Return.
+bool Type(CKorvelListCtrl* list, int row, int column, const QString& text) {
+    const QModelIndex cell = list->model()->index(row, column);
+    (void)QTest::qWaitFor([&] { return list->indexWidget(cell) != nullptr; }, 1000);
+    auto* editor = qobject_cast<QLineEdit*>(list->indexWidget(cell));
+    if (editor == nullptr) return false;
+    editor->selectAll();
+    QTest::keyClicks(editor, text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    return true;
+}
+
 // A shown, active accounts dialog opened for "ann", answering questions from a script.
 struct Dialog {
     vx::test::ScriptedPrompt prompt;
-    CLoginPropDlg dialog{QStringLiteral("ann"), nullptr, nullptr};
-    CKorvelListCtrl* users = dialog.findChild<CKorvelListCtrl*>(QStringLiteral("userList_3403"));
-    CKorvelListCtrl* servers =
-        dialog.findChild<CKorvelListCtrl*>(QStringLiteral("serverList_3404"));
+    CLoginPropDlg dialog{u"ann"_s, nullptr, nullptr};
+    CKorvelListCtrl* users = dialog.findChild<CKorvelListCtrl*>(u"userList_3403"_s);
+    CKorvelListCtrl* servers = dialog.findChild<CKorvelListCtrl*>(u"serverList_3404"_s);
 
-    Dialog() {
-        dialog.show();
-        dialog.activateWindow();  // no window manager activates it under a bare X server
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    }
-
-    static QPoint Cell(CKorvelListCtrl* list, int row, int column) {
-        return list->visualRect(list->model()->index(row, column)).center();
-    }
-    static void Click(CKorvelListCtrl* list, int row, int column,
-                      Qt::KeyboardModifiers modifiers = {}) {
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, Cell(list, row, column));
-    }
-    static QLineEdit* Editor(CKorvelListCtrl* list, int row, int column) {
-        const QModelIndex cell = list->model()->index(row, column);
-        (void)QTest::qWaitFor([&] { return list->indexWidget(cell) != nullptr; }, 1000);
-        return qobject_cast<QLineEdit*>(list->indexWidget(cell));
-    }
-    // Types over the text of the open editor of a cell and presses Return.
-    static bool Type(CKorvelListCtrl* list, int row, int column, const QString& text) {
-        QLineEdit* editor = Editor(list, row, column);
-        if (editor == nullptr) return false;
-        editor->selectAll();
-        QTest::keyClicks(editor, text);
-        QTest::keyClick(editor, Qt::Key_Return);
-        return true;
-    }
-    // Opens the context menu of a cell and clicks its entry `text`.
-    static void ChooseFromMenu(CKorvelListCtrl* list, int row, int column, const QString& text) {
-        QTimer::singleShot(0, [text] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>())
-                if (action->text() == text && action->isEnabled())
-                    QTest::mouseClick(menu, Qt::LeftButton, {},
-                                      menu->actionGeometry(action).center());
-            if (QApplication::activePopupWidget() != nullptr)
-                QApplication::activePopupWidget()->close();
-        });
-        const QPoint at = Cell(list, row, column);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at, list->viewport()->mapToGlobal(at));
-        QApplication::sendEvent(list->viewport(), &event);
-    }
+    Dialog() { QVERIFY(vx::test::ShowActive(dialog)); }
     void Press(QDialogButtonBox::StandardButton which) {
-        QTest::mouseClick(
-            dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(which),
-            Qt::LeftButton);
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
     }
 };
 
@@ -100,128 +70,112 @@ struct Dialog {
 
 class AccountsDialogTest : public QObject {
     Q_OBJECT
-private:
-    std::unique_ptr<QTemporaryDir> m_folders;
+    QTemporaryDir m_folders;
 
-    QString Folder(const QString& name) const { return QDir::cleanPath(m_folders->filePath(name)); }
+    QString Folder(const QString& name) const { return QDir::cleanPath(m_folders.filePath(name)); }
     void AddUser(const QString& name) {
         QDir().mkpath(Folder(name));
-        CAppEnv::AddUser(Local(name), Local(Folder(name)));
+        QVERIFY(CAppEnv::AddUser(FromQString(name), FromQString(Folder(name))));
     }
 
 private Q_SLOTS:
-    // Every test starts from no users, a default home folder and no dialog settings.
-    void init() {
-        for (const QString& user : StoredUsers())
-            CAppEnv::DeleteUser(Local(user));
-        m_folders = std::make_unique<QTemporaryDir>();
-        QDir().mkpath(Folder(QStringLiteral("default")));
-        CAppEnv::SetDefaultHomePath(Local(Folder(QStringLiteral("default"))));
-        RApplication::Current()->WriteProfileString("Desktop", nullptr, nullptr);
+    void initTestCase() {
+        QDir().mkpath(Folder(u"default"_s));
+        CAppEnv::SetDefaultHomePath(FromQString(Folder(u"default"_s)));
     }
 
-    void addsAndRenamesUsersInTheirCells() {
-        AddUser(QStringLiteral("ann"));
+    // A user typed into the add row and one renamed through the menu are stored at once;
+    // deleting stops at the first No; Cancel undoes nothing and says so.
+    void usersAreAddedRenamedAndDeletedInTheirCells() {
+        AddUser(u"ann"_s);
+        AddUser(u"bob"_s);
         Dialog d;
-        const QString addRow = d.users->GetItemText(0, 0);
-        QCOMPARE(d.users->GetSelectedRows(), QList<int>{2});
-        QCOMPARE(d.users->accessibleName(), QStringLiteral("Users"));
+        Click(d.users, 0, 0);  // a single click on the add row starts its editor
+        QVERIFY(Type(d.users, 0, 0, u"dan"_s));
+        QTRY_COMPARE(StoredUsers(), QStringList({u"ann"_s, u"bob"_s, u"dan"_s}));
+        QVERIFY(d.dialog.isVisible());  // Return stays in the cell
+        QCOMPARE(d.users->GetItemText(2, 0), u"dan"_s);
 
-        // A single click on the add row starts its editor; Return stays in the cell.
-        d.Click(d.users, 0, 0);
-        QVERIFY(d.Type(d.users, 0, 0, QStringLiteral("bob")));
-        QTRY_COMPARE(StoredUsers(), (QStringList{QStringLiteral("ann"), QStringLiteral("bob")}));
-        QCOMPARE(d.users->GetItemText(0, 0), addRow);
-        QCOMPARE(d.users->GetItemText(2, 0), QStringLiteral("bob"));
-        QVERIFY(d.dialog.isVisible());
+        Click(d.users, 2, 0);
+        QTimer::singleShot(0, [] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>())
+                if (action->text() == u"Edit User"_s)
+                    QTest::mouseClick(menu, Qt::LeftButton, {},
+                                      menu->actionGeometry(action).center());
+            if (QApplication::activePopupWidget() != nullptr)
+                QApplication::activePopupWidget()->close();
+        });
+        const QPoint at = d.users->visualRect(d.users->model()->index(2, 0)).center();
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, at, d.users->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(d.users->viewport(), &menu);
+        QVERIFY(Type(d.users, 2, 0, u"carl"_s));
+        QTRY_COMPARE(StoredUsers(), QStringList({u"ann"_s, u"bob"_s, u"carl"_s}));
+        QCOMPARE(d.dialog.GetCurrentUser(), u"carl"_s);
 
-        // The add row's own text is refused and stays in the editor.
-        d.Click(d.users, 0, 0);
-        QVERIFY(d.Type(d.users, 0, 0, addRow.toUpper()));
-        QTRY_VERIFY(d.users->IsInLabelEditMode());
-        QTest::keyClick(d.Editor(d.users, 0, 0), Qt::Key_Escape);
-        QTRY_VERIFY(!d.users->IsInLabelEditMode());
-
-        d.Click(d.users, 2, 0);
-        d.ChooseFromMenu(d.users, 2, 0, QStringLiteral("Edit User"));
-        QVERIFY(d.Type(d.users, 2, 0, QStringLiteral("carl")));
-        QTRY_COMPARE(StoredUsers(), (QStringList{QStringLiteral("ann"), QStringLiteral("carl")}));
-        QCOMPARE(d.dialog.GetCurrentUser(), QStringLiteral("carl"));
-
-        // Cancel undoes nothing that was stored, and says so.
-        d.Press(QDialogButtonBox::Cancel);
-        QCOMPARE(d.dialog.result(), int(QDialog::Rejected));
-        QVERIFY(d.dialog.IsDirty());
-        QVERIFY(Setting("AccountsGeometry") != QStringLiteral("-"));
-    }
-
-    void deletesSelectedUsersUntilTheFirstNo() {
-        for (const char* user : {"ann", "bob", "carl"})
-            AddUser(QString::fromLatin1(user));
-        Dialog d;
-        d.Click(d.users, 2, 0);
-        d.Click(d.users, 4, 0, Qt::ShiftModifier);
+        Click(d.users, 2, 0);
+        Click(d.users, 4, 0, Qt::ShiftModifier);
         QCOMPARE(d.users->GetSelectedRows(), (QList<int>{2, 3, 4}));
         d.prompt.answers = {vx::kIdYes, vx::kIdNo};
         QTest::keyClick(d.users, Qt::Key_Delete);
         QCOMPARE(d.prompt.asked.size(), std::size_t{2});
-        QCOMPARE(d.prompt.asked[0].text, "Permanently remove user 'carl'?");
-        QCOMPARE(d.prompt.asked[1].text, "Permanently remove user 'bob'?");
-        QCOMPARE(StoredUsers(), (QStringList{QStringLiteral("ann"), QStringLiteral("bob")}));
+        QCOMPARE(d.prompt.asked[1].text, "Permanently remove user 'ann'?");
+        QCOMPARE(StoredUsers(), QStringList({u"ann"_s, u"carl"_s}));
         QCOMPARE(d.users->GetItemCount(), 4);
+
+        d.Press(QDialogButtonBox::Cancel);
+        QCOMPARE(d.dialog.result(), int(QDialog::Rejected));
+        QVERIFY(d.dialog.IsDirty());
+        QVERIFY(Setting("AccountsGeometry") != u"-"_s);
     }
 
-    void storesServerSwitchesAndRefusesPrivateRpcNumbers() {
-        AddUser(QStringLiteral("ann"));
-        QFile file(Folder(QStringLiteral("ann/VX")));
+    // Opening writes no setting. A switch clicked is stored; a private RPC number is refused
+    // with its editor open; the advanced options and the widths are stored when switched and
+    // at OK.
+    void serverSwitchesNumbersAndOptionsAreStored() {
+        for (const QString& user : StoredUsers())
+            CAppEnv::DeleteUser(FromQString(user));
+        RApplication::Current()->WriteProfileString("Desktop", nullptr, nullptr);
+        AddUser(u"ann"_s);
+        QFile file(Folder(u"ann/VX"_s));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("alpha VX\n") > 0);
         file.close();
-        const CGNString folder = Local(Folder(QStringLiteral("ann")));
-        const auto stored = [&] {
+        const auto stored = [folder = FromQString(Folder(u"ann"_s))] {
             CAppEnv::flag disabled = 0, workflow = 0, notifier = 0;
             CGNString port, rpc, notifierPort;
             CAppEnv::GetServerAttributes(folder, "alpha", disabled, workflow, notifier, port, rpc,
                                          notifierPort);
-            return QStringLiteral("%1 %2 %3").arg(workflow).arg(notifier).arg(vx::ToQString(rpc));
+            return u"%1 %2 %3"_s.arg(workflow).arg(notifier).arg(vx::ToQString(rpc));
         };
         Dialog d;
-        QCOMPARE(d.servers->GetItemText(1, 0), QStringLiteral("alpha"));
+        for (const char* entry : {"AdvancedServerOptions", "AccountsColumn", "AccountsGeometry"})
+            QCOMPARE(Setting(entry), u"-"_s);
+        QCOMPARE(d.servers->GetItemText(1, 0), u"alpha"_s);
+        Click(d.servers, 1, 2);  // the notifier switch of alpha
+        QTRY_COMPARE(stored(), u"1 1 "_s);
 
-        d.Click(d.servers, 1, 2);  // the notifier switch of alpha
-        QTRY_COMPARE(stored(), QStringLiteral("1 1 "));
-
-        d.Click(d.servers, 1, 4);
-        QVERIFY(d.Type(d.servers, 1, 4, QStringLiteral("390679")));
+        Click(d.servers, 1, 4);
+        QVERIFY(Type(d.servers, 1, 4, u"390679"_s));
         QTRY_COMPARE(d.prompt.asked.size(), std::size_t{1});
         QVERIFY(QString::fromStdString(d.prompt.asked[0].text).contains(u"390680-390694"));
         QVERIFY(d.servers->IsInLabelEditMode());
-        QVERIFY(d.Type(d.servers, 1, 4, QStringLiteral("390680")));
-        QTRY_COMPARE(stored(), QStringLiteral("1 1 390680"));
-    }
+        QVERIFY(Type(d.servers, 1, 4, u"390680"_s));
+        QTRY_COMPARE(stored(), u"1 1 390680"_s);
 
-    void advancedOptionsAreStoredWhenSwitchedOnly() {
-        Dialog d;
-        auto* advanced = d.dialog.findChild<QCheckBox*>(QStringLiteral("advancedOptions_3424"));
-        QVERIFY(advanced->isChecked());
+        auto* advanced = d.dialog.findChild<QCheckBox*>(u"advancedOptions_3424"_s);
         QCOMPARE(d.servers->GetColumnCount(), 6);
-        for (const char* entry : {"AdvancedServerOptions", "AccountsColumn", "AccountsGeometry"})
-            QCOMPARE(Setting(entry), QStringLiteral("-"));  // opening writes nothing
         d.servers->SetColumnWidth(3, 90);
-
         QTest::mouseClick(advanced, Qt::LeftButton);
         QCOMPARE(d.servers->GetColumnCount(), 3);
-        QCOMPARE(Setting("AdvancedServerOptions"), QStringLiteral("0"));
-        QCOMPARE(Setting("AccountsColumn"), QStringLiteral("150;50;50;90;75;80"));
-
+        QCOMPARE(Setting("AdvancedServerOptions"), u"0"_s);
+        QCOMPARE(Setting("AccountsColumn"), u"150;50;50;90;75;80"_s);
         QTest::mouseClick(advanced, Qt::LeftButton);
-        QCOMPARE(d.servers->GetColumnCount(), 6);
         QCOMPARE(d.servers->GetColumnWidth(3), 90);
-        QCOMPARE(Setting("AdvancedServerOptions"), QStringLiteral("1"));
-
+        QCOMPARE(Setting("AdvancedServerOptions"), u"1"_s);
         d.servers->SetColumnWidth(0, 120);
         d.Press(QDialogButtonBox::Ok);
         QCOMPARE(d.dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(Setting("AccountsColumn"), QStringLiteral("120;50;50;90;75;80"));
+        QCOMPARE(Setting("AccountsColumn"), u"120;50;50;90;75;80"_s);
     }
 };
 

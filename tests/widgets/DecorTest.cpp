@@ -1,5 +1,6 @@
 // The decoration widgets: the dialog base that keeps help to itself, dialog bars that share one
-// stored look, gradient captions of MDI children, and menu merging.
+// stored look, gradient captions of MDI children, and menu merging. The rules behind the look,
+// the gradient and the merge are tested in tests/decor.
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -9,9 +10,6 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QSignalSpy>
-#include <QStyle>
-#include <QStyleOptionTitleBar>
-#include <QTimer>
 
 #include "support/WidgetTestMain.h"
 #include "vxutil/decor/qt/CWDialog.h"
@@ -41,7 +39,7 @@ private:
 QStringList Titles(const QWidget& menu) {
     QStringList titles;
     for (const QAction* action : menu.actions())
-        titles << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        titles << (action->isSeparator() ? u"-"_s : action->text());
     return titles;
 }
 
@@ -62,9 +60,7 @@ private Q_SLOTS:
         CWDialog dialog(&main);
         QVERIFY(dialog.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
         auto* edit = new QLineEdit(&dialog);
-        dialog.show();
-        dialog.activateWindow();  // no window manager activates it under a bare X server
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(vx::test::ShowActive(dialog));
         edit->setFocus();
         QTest::keyClick(edit, Qt::Key_F1);
         QTest::keyClick(&dialog, Qt::Key_F1, Qt::ShiftModifier);
@@ -72,50 +68,41 @@ private Q_SLOTS:
         QTest::keyClick(&main, Qt::Key_F1);  // outside the dialog the application's help runs
         QCOMPARE(helpAsked.count(), 1);
 
-        QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5),
-                               dialog.mapToGlobal(QPoint(5, 5)));
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, {5, 5}, dialog.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&dialog, &menu);
-        QVERIFY(menu.isAccepted());
-        QVERIFY(QApplication::activePopupWidget() == nullptr);
-
+        QVERIFY(menu.isAccepted() && QApplication::activePopupWidget() == nullptr);
         dialog.EnableContextHelp(false);  // shown: must not hide the dialog
-        QVERIFY(dialog.isVisible());
-        QVERIFY(!dialog.IsContextHelpEnabled());
+        QVERIFY(dialog.isVisible() && !dialog.IsContextHelpEnabled());
     }
 
     // A look the user picks on one bar is stored and reaches every open bar.
     void dialogBarLookReachesEveryBarAndTheProfile() {
         RApplication* app = RApplication::Current();
         RDialogBar first, second;
-        QCOMPARE(app->GetProfileString("DialogBar", "BackgroundColor").str(),
-                 vx::FormatColorText(vx::MakeColor(first.BackgroundColor().red(),
-                                                   first.BackgroundColor().green(),
-                                                   first.BackgroundColor().blue())));
         first.resize(200, 24);
         first.show();
         first.SetDisplayText("Users");
-        auto* text = first.findChild<QLabel*>(QStringLiteral("text_3405"));
-        QVERIFY(text != nullptr);
+        auto* text = first.findChild<QLabel*>(u"text_3405"_s);
         QCOMPARE(text->geometry(), QRect(2, 4, 196, 16));
-        QCOMPARE(text->text(), QStringLiteral("Users"));
+        QCOMPARE(text->text(), u"Users"_s);
 
         FixedChooser chooser;
         first.OnBkgndColorChange();
         first.OnFontChange();
         QCOMPARE(second.BackgroundColor(), QColor(10, 20, 30));
         QCOMPARE(second.TextLogFont().lfHeight, -17);
-        QCOMPARE(app->GetProfileString("DialogBar", "BackgroundColor").str(),
-                 std::string("10,20,30"));
+        QCOMPARE(app->GetProfileString("DialogBar", "BackgroundColor").str(), "10,20,30");
         QVERIFY(app->GetProfileString("DialogBar", "TextLogfont").str().rfind("-17,", 0) == 0);
-        RDialogBar third;  // a bar opened later reads the same look
-        QCOMPARE(third.BackgroundColor(), QColor(10, 20, 30));
+        QCOMPARE(RDialogBar().BackgroundColor(), QColor(10, 20, 30));  // a bar opened later
     }
 
+    // The painted caption has the colour of the gradient band under it, and the plain
+    // highlight once the gradient is off.
     void mdiCaptionShowsTheGradient() {
         QMdiArea area;
         area.resize(400, 300);
         QMdiSubWindow* child = area.addSubWindow(new QWidget);
-        child->setWindowTitle(QStringLiteral("Query"));
+        child->setWindowTitle(u"Query"_s);
         child->resize(300, 200);
         area.show();
         area.setActiveSubWindow(child);
@@ -124,49 +111,39 @@ private Q_SLOTS:
         RCaptionPainter painter;
         QCOMPARE(painter.Install(child), 1);
         painter.SetGradient(1);
-        QStyleOptionTitleBar title;
-        title.initFrom(child);
-        title.titleBarState = child->windowState() | Qt::WindowActive;
-        title.titleBarFlags = child->windowFlags();
-        const QRect bar = child->style()->subControlRect(QStyle::CC_TitleBar, &title,
-                                                         QStyle::SC_TitleBarLabel, child);
-        const QImage shot = child->grab().toImage();
+        const QPoint probe(child->width() / 2, 1);  // in the caption, above its text
         const std::vector<vx::Band> bands =
             painter.CaptionBands(child->palette(), true, child->width(), 20);
-        // One pixel above the caption text, just right of the icon.
-        const QPoint probe(bar.left() + 1, 1);
         const auto band = std::find_if(bands.rbegin(), bands.rend(), [&](const vx::Band& b) {
             return probe.x() >= b.x && probe.x() < b.x + b.w;
         });
         QVERIFY(band != bands.rend());
-        QCOMPARE(shot.pixelColor(probe),
+        QCOMPARE(child->grab().toImage().pixelColor(probe),
                  QColor(vx::RedOf(band->color), vx::GreenOf(band->color), vx::BlueOf(band->color)));
         painter.SetGradient(0);
         QCOMPARE(child->grab().toImage().pixelColor(probe),
                  child->palette().color(QPalette::Active, QPalette::Highlight));
     }
 
+    // Pop-ups go before Help, into the host's pop-up of the same name or as new ones; the
+    // module's items are shared, its bar is left as it was.
     void mergedMenusGoBeforeHelp() {
-        QMenuBar host;
-        host.addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("E&xit"));
-        host.addMenu(QStringLiteral("&Help"))->addAction(QStringLiteral("&About"));
-        QMenuBar module;
-        QMenu* tools = module.addMenu(QStringLiteral("&Tools"));
-        QAction* trace = tools->addAction(QStringLiteral("&Trace"));
-        QMenu* moduleFile = module.addMenu(QStringLiteral("F&ile"));
+        QMenuBar host, module;
+        host.addMenu(u"&File"_s)->addAction(u"E&xit"_s);
+        host.addMenu(u"&Help"_s);
+        QAction* trace = module.addMenu(u"&Tools"_s)->addAction(u"&T"_s);
+        QMenu* moduleFile = module.addMenu(u"F&ile"_s);
         moduleFile->addSeparator();
-        moduleFile->addAction(QStringLiteral("&Export"));
+        moduleFile->addAction(u"&Export"_s);
 
         QCOMPARE(RMergeMenu(&host, &module), 1);
-        QCOMPARE(Titles(host), (QStringList{QStringLiteral("&File"), QStringLiteral("&Tools"),
-                                            QStringLiteral("&Help")}));
-        QCOMPARE(
-            Titles(*host.actions().at(0)->menu()),
-            (QStringList{QStringLiteral("E&xit"), QStringLiteral("-"), QStringLiteral("&Export")}));
+        QCOMPARE(Titles(host), (QStringList{u"&File"_s, u"&Tools"_s, u"&Help"_s}));
+        QCOMPARE(Titles(*host.actions().at(0)->menu()),
+                 (QStringList{u"E&xit"_s, u"-"_s, u"&Export"_s}));
         QMenu* merged = host.actions().at(1)->menu();
-        QVERIFY(merged != tools);                  // pop-ups are made anew
-        QCOMPARE(merged->actions().at(0), trace);  // plain items are shared
-        QCOMPARE(Titles(module), (QStringList{QStringLiteral("&Tools"), QStringLiteral("F&ile")}));
+        QVERIFY(merged != module.actions().at(0)->menu());  // pop-ups are made anew
+        QCOMPARE(merged->actions().at(0), trace);
+        QCOMPARE(Titles(module), (QStringList{u"&Tools"_s, u"F&ile"_s}));
         QCOMPARE(RMergeMenu(nullptr, &module), 0);
     }
 };

@@ -4,7 +4,6 @@
 #include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 
 #include "runtime/module/Module.h"
 #include "runtime/qt/QtMessageBackend.h"
@@ -19,23 +18,23 @@
 
 namespace {
 
-// Runs `inspect` on the message box once it is shown, then presses `key` in it.
-void AnswerNextBox(std::function<void(QMessageBox&)> inspect, Qt::Key key) {
-    QTimer::singleShot(0, [inspect, key] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        QVERIFY(box != nullptr);
-        inspect(*box);
-        QTest::keyClick(box, key);
+// Asks through the installed prompt, describes the box shown and answers it with `key`.
+int Ask(QWidget* parent, const char* text, const char* title, unsigned style, Qt::Key key,
+        QString& shown) {
+    vx::test::OnNextModal([&shown, parent, key](QWidget& modal) {
+        auto* box = qobject_cast<QMessageBox*>(&modal);
+        if (box != nullptr)
+            shown = u"icon %1, %2: %3, %4 buttons, default %5%6"_s.arg(box->icon())
+                        .arg(box->windowTitle(), box->text())
+                        .arg(box->buttons().size())
+                        .arg(box->standardButton(box->defaultButton()), 0, 16)
+                        .arg(parent != nullptr && box->parentWidget() == parent->window()
+                                 ? u", over the window"_s
+                                 : QString());
+        QTest::keyClick(&modal, key);
     });
+    return RUserPrompt::Current().Show(parent, text, title, style);
 }
-
-class PaintCounter : public QWidget {
-public:
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent*) override { ++paints; }
-};
 
 class CountingQueue : public vx::MessageQueue {
 public:
@@ -46,56 +45,50 @@ public:
     }
 };
 
+class PaintCounter : public QWidget {
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent*) override { ++paints; }
+};
+
 }  // namespace
 
 class ServicesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void promptShowsTheStyleAndReturnsTheAnswer() {
+    // The style's icon and buttons, the answer's number and the box's owner: the window of the
+    // in-cell editor that asks, the application's name when no title is given.
+    void promptMapsStylesAndAnswersToMessageBoxes() {
         QWidget dialog;
         QWidget* editor = new QWidget(&dialog);
         dialog.show();
-        QWidget* owner = nullptr;
-        AnswerNextBox(
-            [&](QMessageBox& box) {
-                owner = box.parentWidget();
-                QCOMPARE(box.icon(), QMessageBox::Warning);
-                QCOMPARE(box.windowTitle(), QStringLiteral("Question"));
-                QCOMPARE(box.text(), QStringLiteral("Create it?"));
-                QCOMPARE(box.buttons().size(), 2);
-                QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
-            },
-            Qt::Key_Return);
-        // Asked from an in-cell editor: the box belongs to the editor's window.
-        QCOMPARE(RUserPrompt::Current().Show(editor, "Create it?", "Question", 0x134), vx::kIdNo);
-        QCOMPARE(owner, &dialog);
-
-        AnswerNextBox([](QMessageBox& box) { QCOMPARE(box.icon(), QMessageBox::Critical); },
-                      Qt::Key_Escape);
-        QCOMPARE(RUserPrompt::Current().Show(nullptr, "Failed.", nullptr, 0x11), vx::kIdCancel);
-        AnswerNextBox(
-            [](QMessageBox& box) { QCOMPARE(box.windowTitle(), QStringLiteral("Widget Tests")); },
-            Qt::Key_Escape);
-        QCOMPARE(RUserPrompt::Current().Show(nullptr, "Done.", nullptr, 0x40), vx::kIdOk);
+        QString shown;
+        QCOMPARE(Ask(editor, "Create it?", "Question", 0x134, Qt::Key_Return, shown), vx::kIdNo);
+        QCOMPARE(shown,
+                 u"icon 2, Question: Create it?, 2 buttons, default 10000, "
+                 u"over the window"_s);
+        QCOMPARE(Ask(nullptr, "Failed.", nullptr, 0x11, Qt::Key_Escape, shown), vx::kIdCancel);
+        QCOMPARE(shown, u"icon 3, Widget Tests: Failed., 2 buttons, default 400"_s);
+        QCOMPARE(Ask(nullptr, "Done.", nullptr, 0x40, Qt::Key_Escape, shown), vx::kIdOk);
     }
 
-    void stationTicksPumpsThroughQtTimers() {
+    // Pumps tick through Qt timers; pumping visual messages repaints pending widgets once per
+    // tick; a lock switches a widget's updates off for its scope.
+    void stationPumpsAndLocksWorkOnQtWidgets() {
         vx::QtTimerSource timers;
-        CountingQueue queue;
-        RMessageStation station(20, queue, timers);
+        CountingQueue counting;
+        RMessageStation station(20, counting, timers);
         RMessageStation* previous = RMessageStation::SetModule(&station);
         {
             RMessagePump pump(vx::kWmPaint, -1, 1);
             QVERIFY(pump.GetID() != 0);
-            QTRY_VERIFY(queue.requests >= 2);
+            QTRY_VERIFY(counting.requests >= 2);
         }
         QCOMPARE(station.GetPumpCount(), std::size_t{0});
         RMessageStation::SetModule(previous);
-    }
 
-    // A long operation that pumps visual messages repaints pending widgets once per tick.
-    void visualRequestRepaintsOncePerTick() {
-        vx::QtTimerSource timers;
         vx::QtMessageQueue queue(timers);
         PaintCounter widget;
         widget.show();
@@ -106,42 +99,29 @@ private Q_SLOTS:
         QCOMPARE(widget.paints, before + 1);
         widget.update();
         QVERIFY(!queue.DispatchFirst(vx::kWmMouseMove));  // same tick: nothing more is run
-        QVERIFY(!queue.DispatchFirst(vx::kWmUser));
         QCOMPARE(widget.paints, before + 1);
-    }
-
-    void lockSwitchesUpdatesOffForTheOutermostScope() {
-        QWidget first, second;
         {
-            RLockWindowUpdate outer(&first);
-            {
-                RLockWindowUpdate inner(&second);
-                QVERIFY(!first.updatesEnabled());
-                QVERIFY(second.updatesEnabled());
-            }
-            QVERIFY(!first.updatesEnabled());
-            QVERIFY(RLockWindowUpdate::IsLocked());
+            RLockWindowUpdate lock(&widget);
+            QVERIFY(!widget.updatesEnabled());
         }
-        QVERIFY(first.updatesEnabled());
-        QVERIFY(!RLockWindowUpdate::IsLocked());
+        QVERIFY(widget.updatesEnabled());
     }
 
     // With German resources attached, the library's texts and Qt's buttons are German alike.
     void germanResourcesTranslateLibraryAndQtTexts() {
-        vx::RemoveQtServices();
-        vx::UnloadModule();
-        vx::LoadModule(VXUTIL_TEST_MODULE_PATH, nullptr, {"de"});
-        vx::InstallQtServices();
-        QCOMPARE(vx::Tr(3055), QStringLiteral("%1\n\nDieser Ordner existiert nicht - erstellen?"));
+        const auto reload = [](std::vector<std::string> languages) {
+            vx::RemoveQtServices();
+            vx::UnloadModule();
+            vx::LoadModule(VXUTIL_TEST_MODULE_PATH, nullptr, std::move(languages));
+            vx::InstallQtServices();
+        };
+        reload({"de"});
+        QCOMPARE(vx::Tr(3055), u"%1\n\nDieser Ordner existiert nicht - erstellen?"_s);
         QCOMPARE(QCoreApplication::translate("CLoginDlg", "unused", "3055"), vx::Tr(3055));
-        QCOMPARE(QCoreApplication::translate("CLoginDlg", "Plain", nullptr),
-                 QStringLiteral("Plain"));
+        QCOMPARE(QCoreApplication::translate("CLoginDlg", "Plain", nullptr), u"Plain"_s);
         QDialogButtonBox buttons(QDialogButtonBox::Cancel);
-        QCOMPARE(buttons.button(QDialogButtonBox::Cancel)->text(), QStringLiteral("Abbrechen"));
-        vx::RemoveQtServices();
-        vx::UnloadModule();
-        vx::LoadModule(VXUTIL_TEST_MODULE_PATH, nullptr, {});
-        vx::InstallQtServices();
+        QCOMPARE(buttons.button(QDialogButtonBox::Cancel)->text(), u"Abbrechen"_s);
+        reload({});
     }
 };
 

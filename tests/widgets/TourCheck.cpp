@@ -4,23 +4,15 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QSet>
-#include <QTextStream>
 #include <cstdio>
 
 namespace {
 
-const char* const kExpected[] = {
-    "login.png",    "accounts.png",    "accounts-ports.png",    "about.png",    "main.png",
-    "login-de.png", "accounts-de.png", "accounts-ports-de.png", "about-de.png",
-};
-
 bool ShowsSomething(const QImage& image) {
-    if (image.isNull() || image.width() < 50 || image.height() < 50) return false;
-    const QRgb first = image.pixel(0, 0);
+    if (image.width() < 50 || image.height() < 50) return false;  // null ones included
     for (int y = 0; y < image.height(); y += 3)
         for (int x = 0; x < image.width(); x += 3)
-            if (image.pixel(x, y) != first) return true;
+            if (image.pixel(x, y) != image.pixel(0, 0)) return true;
     return false;
 }
 
@@ -37,21 +29,20 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "no index.txt in %s\n", argv[1]);
         return 1;
     }
-    QSet<QString> listed;
-    QTextStream lines(&index);
-    while (!lines.atEnd())
-        listed.insert(lines.readLine().section(QLatin1Char('\t'), 0, 0));
+    QStringList listed;
+    for (const QString& line : QString::fromUtf8(index.readAll()).split(u'\n'))
+        listed << line.section(u'\t', 0, 0);
     int failures = 0;
-    for (const char* name : kExpected) {
-        const QString file = QString::fromLatin1(name);
+    for (const char* name : {"login", "accounts", "accounts-ports", "about", "main", "login-de",
+                             "accounts-de", "accounts-ports-de", "about-de"}) {
+        const QString file = QString::fromLatin1(name) + QStringLiteral(".png");
         const char* problem = !listed.contains(file)                           ? "not in the index"
                               : !ShowsSomething(QImage(folder.filePath(file))) ? "missing or blank"
                                                                                : nullptr;
         if (problem == nullptr) continue;
-        std::fprintf(stderr, "%s: %s\n", name, problem);
+        std::fprintf(stderr, "%s.png: %s\n", name, problem);
         ++failures;
     }
-    std::printf("%d of %zu pictures good\n", static_cast<int>(std::size(kExpected)) - failures,
-                std::size(kExpected));
+    std::printf("%d pictures missing or blank\n", failures);
     return failures == 0 ? 0 : 1;
 }

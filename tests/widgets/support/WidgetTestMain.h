@@ -6,14 +6,21 @@
 
 #include <QApplication>
 #include <QTest>
+#include <functional>
 
 #include "support/TempHome.h"
 #include "vxutil/platform/RApplication.h"
+
+using namespace Qt::StringLiterals;  // u"..."_s in the tests
 
 namespace vx::test {
 
 // Loads the module and installs the Qt services once the application exists.
 void StartWidgetTestModule();
+// Shows `window` and activates it, which no window manager does under a bare X server.
+bool ShowActive(QWidget& window);
+// Runs `action` once on the next modal widget shown, from inside its event loop.
+void OnNextModal(std::function<void(QWidget&)> action);
 
 template <typename TestObject>
 int RunWidgetTest(int argc, char** argv) {
