@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <climits>
-#include <functional>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -30,93 +30,65 @@ std::vector<ColorRef> Paint(const std::vector<Band>& bands, int cx) {
 }
 
 TEST(CaptionGradientTest, LuminosityIsTheRoundedMeanOfStrongestAndWeakestChannel) {
-    for (const auto& [color, luminosity] : {std::pair{MakeColor(255, 255, 255), 240},
-                                            {MakeColor(0, 0, 0), 0},
-                                            {MakeColor(255, 0, 0), 120},
-                                            {MakeColor(10, 200, 40), 99},
-                                            {MakeColor(2, 0, 0), 1}})
-        EXPECT_EQ(vx::GetLuminosity(color), luminosity) << std::hex << color;
+    EXPECT_EQ(vx::GetLuminosity(MakeColor(255, 255, 255)), 240);
+    EXPECT_EQ(vx::GetLuminosity(MakeColor(0, 0, 0)), 0);
+    EXPECT_EQ(vx::GetLuminosity(MakeColor(255, 0, 0)), 120);
+    EXPECT_EQ(vx::GetLuminosity(MakeColor(10, 200, 40)), 99);  // 98.8
 }
 
-TEST(CaptionGradientTest, BlackToColorFadesQuadraticallyFromBlack) {
-    // Below 128 pixels every band is one pixel wide, from black to the base colour itself.
-    const ColorRef base = MakeColor(10, 120, 255);
-    const std::vector<Band> narrow = vx::GradientBlackToColorBands(kOn, 100, kHeight, 0, base);
-    EXPECT_EQ(narrow.size(), 100u);
-    EXPECT_TRUE(std::all_of(narrow.begin(), narrow.end(), [](const Band& b) { return b.w == 1; }));
-    const std::vector<ColorRef> row = Paint(narrow, 100);
-    EXPECT_EQ(row.front(), vx::kBlack);
-    EXPECT_EQ(row[50], MakeColor(8, 90, 192));  // c - c/4 at half the width
-    EXPECT_EQ(row.back(), base);
-
-    // From about 2900 pixels on c·d² passes 32 bits; the fade must go on evenly.
-    const std::vector<Band> wide =
-        vx::GradientBlackToColorBands(kOn, 4000, kHeight, 0, MakeColor(255, 0, 0));
-    ASSERT_EQ(wide.size(), 65u);  // 64 bands of 62 pixels, right to left, and a black rest
-    EXPECT_EQ(wide[59], (Band{280, 0, 62, kHeight, MakeColor(35, 0, 0)}));  // d = 3720
-    EXPECT_EQ(wide[63], (Band{32, 0, 62, kHeight, MakeColor(5, 0, 0)}));
-    EXPECT_EQ(wide[64], (Band{0, 0, 32, kHeight, vx::kBlack}));
-    // Even at the widest caption there can be, no band is lighter than the one to its right.
-    for (const auto& bands : {wide, vx::GradientBlackToColorBands(kOn, INT_MAX, kHeight, 1, 0)})
-        for (std::size_t i = 1; i < bands.size(); ++i)
-            EXPECT_LE(bands[i].color, bands[i - 1].color) << i;
-}
-
-TEST(CaptionGradientTest, ColorToColorRampsTheWeakestChannelAndEndsOnTheBase) {
-    const struct {
-        int cx;
-        ColorRef base, firstPixel;
-        std::size_t bands;
-    } rows[] = {
-        {300, kNavy, MakeColor(255, 0, 128), 256},  // 255 ramp steps, then the base strip
-        {300, MakeColor(200, 100, 50), MakeColor(200, 100, 255), 256},
-        {300, MakeColor(50, 50, 100), MakeColor(255, 50, 100), 256},  // a tie ramps red,
-        {300, MakeColor(100, 50, 50), MakeColor(100, 255, 50), 256},  // then green
-        {10, kNavy, MakeColor(255, 0, 128), 10},
-        {1, kNavy, kNavy, 1},
-    };
-    for (const auto& r : rows) {
-        SCOPED_TRACE(testing::Message() << r.cx << " px, base " << std::hex << r.base);
-        const std::vector<Band> bands =
-            vx::GradientColorToColorBands(kOn, r.cx, kHeight, 0, r.base);
-        EXPECT_EQ(bands.size(), r.bands);
-        const std::vector<ColorRef> row = Paint(bands, r.cx);
-        EXPECT_EQ(row.front(), r.firstPixel);
-        EXPECT_EQ(row.back(), r.base);
+// Each row paints a gradient and gives its number of bands and its first pixel; the last is
+// the base colour.
+TEST(CaptionGradientTest, GradientsCoverTheCaptionAndEndOnTheBaseColor) {
+    const auto black = &vx::GradientBlackToColorBands, colour = &vx::GradientColorToColorBands;
+    const ColorRef blue = MakeColor(10, 120, 255);
+    const std::tuple<decltype(black), int, ColorRef, std::size_t, ColorRef> rows[] = {
+        {black, 100, blue, 100, vx::kBlack},  // below 128 pixels, one band per pixel
+        {black, 4000, MakeColor(255, 0, 0), 65, vx::kBlack},  // 64 bands, and a black rest
+        // Colour to colour ramps the weakest channel, red before green before blue on a tie, in
+        // 255 steps, then a base strip.
+        {colour, 300, kNavy, 256, MakeColor(255, 0, 128)},
+        {colour, 300, MakeColor(200, 100, 50), 256, MakeColor(200, 100, 255)},
+        {colour, 10, kNavy, 10, MakeColor(255, 0, 128)},
+        {colour, 1, kNavy, 1, kNavy}};
+    for (const auto& [gradient, cx, base, count, firstPixel] : rows) {
+        SCOPED_TRACE(testing::Message() << cx << " px, base " << std::hex << base);
+        const std::vector<Band> bands = gradient(kOn, cx, kHeight, 0, base);
+        EXPECT_EQ(bands.size(), count);
+        const std::vector<ColorRef> row = Paint(bands, cx);
+        EXPECT_EQ(row.front(), firstPixel);
+        EXPECT_EQ(row.back(), base);
         EXPECT_EQ(std::count(row.begin(), row.end(), kUnpainted), 0);
     }
+    const std::vector<Band> narrow = black(kOn, 100, kHeight, 0, blue);
+    EXPECT_TRUE(std::all_of(narrow.begin(), narrow.end(), [](const Band& b) { return b.w == 1; }));
+    EXPECT_EQ(Paint(narrow, 100)[50], MakeColor(8, 90, 192));  // c - c/4 at half the width
     // The ramp ends at 255 - 254 whatever the base's own value of the channel.
-    const ColorRef base = MakeColor(100, 150, 200);
-    EXPECT_EQ(Paint(vx::GradientColorToColorBands(kOn, 300, kHeight, 0, base), 300)[297],
+    EXPECT_EQ(Paint(colour(kOn, 300, kHeight, 0, MakeColor(100, 150, 200)), 300)[297],
               MakeColor(1, 150, 200));
-
+    // c·d² passes 32 bits from about 2900 pixels on and 64 bits near INT_MAX: the fade must
+    // still darken evenly from right to left.
+    for (const auto& bands :
+         {black(kOn, 4000, kHeight, 0, 0xFF), black(kOn, INT_MAX, kHeight, 1, 0)})
+        for (std::size_t i = 1; i < bands.size(); ++i)
+            EXPECT_LE(bands[i].color, bands[i - 1].color) << i;
     // Two channels above 192 make a light colour, which gets the black-to-colour fade.
-    for (const ColorRef light : {MakeColor(200, 200, 0), MakeColor(193, 0, 255)})
-        EXPECT_EQ(vx::GradientColorToColorBands(kOn, 500, kHeight, 0, light),
-                  vx::GradientBlackToColorBands(kOn, 500, kHeight, 0, light));
-    EXPECT_EQ(vx::GradientColorToColorBands(kOn, 500, kHeight, 0, MakeColor(192, 192, 0)).size(),
-              256u);
+    for (const auto& [color, light] :
+         {std::pair{MakeColor(193, 0, 255), true}, {MakeColor(192, 192, 0), false}})
+        EXPECT_EQ(colour(kOn, 500, kHeight, 0, color) == black(kOn, 500, kHeight, 0, color), light);
 }
 
 TEST(CaptionGradientTest, SwitchSystemColorAndEmptyAreasAreSharedByEveryGradient) {
-    using Gradient =
-        std::function<std::vector<Band>(const vx::CaptionState&, int, int, int, ColorRef)>;
-    const Gradient gradients[] = {vx::GradientBlackToColorBands, vx::GradientColorToColorBands,
-                                  [](const vx::CaptionState& state, int cx, int cy, int, ColorRef) {
-                                      return vx::GradientOffBands(state, cx, cy);
-                                  }};
     const ColorRef own = MakeColor(128, 0, 0);
     const vx::CaptionState off{false, kNavy};
-    for (const Gradient& gradient : gradients) {
+    for (const auto gradient : {&vx::GradientBlackToColorBands, &vx::GradientColorToColorBands}) {
         // Switched off: one band of the active-caption colour, whatever is asked for.
-        const std::vector<Band> flat{{0, 0, 120, kHeight, kNavy}};
-        EXPECT_EQ(gradient(off, 120, kHeight, 0, own), flat);
-        EXPECT_EQ(gradient(off, 120, kHeight, 1, own), flat);
+        EXPECT_EQ(gradient(off, 120, kHeight, 0, own),
+                  (std::vector<Band>{{0, 0, 120, kHeight, kNavy}}));
         EXPECT_EQ(gradient(kOn, 120, kHeight, 1, own), gradient(kOn, 120, kHeight, 0, kNavy));
-        for (const auto& [cx, cy] : {std::pair{0, kHeight}, {-5, kHeight}, {120, 0}}) {
-            EXPECT_TRUE(gradient(kOn, cx, cy, 0, own).empty()) << cx << " x " << cy;
-            EXPECT_TRUE(gradient(off, cx, cy, 0, own).empty()) << cx << " x " << cy;
-        }
+        for (const auto& [cx, cy] : {std::pair{0, kHeight}, {-5, kHeight}, {120, 0}})
+            EXPECT_TRUE(gradient(kOn, cx, cy, 0, own).empty() &&
+                        gradient(off, cx, cy, 0, own).empty())
+                << cx << " x " << cy;
     }
 }
 

@@ -20,32 +20,17 @@ const LogFont kFont{-2147483647 - 1, 2147483647, 900, -900, 700, 1, 0, 255, 204,
                     "Courier New"};
 constexpr const char* kFontNumbers = "-2147483648,2147483647,900,-900,700,1,0,255,204,3,2,5,34";
 
-TEST(DialogBarTextTest, ColorsAreReadAsScanfReadsThemAndRoundTrip) {
-    const struct {
-        const char* text;
-        std::optional<ColorRef> color;
-    } rows[] = {
-        {"255,0,0", MakeColor(255, 0, 0)},
-        {" 1,\t+2, 3 and more", 0x030201},  // blanks before numbers, anything after
-        {"300,0,0", 300},  // a number beyond a channel spills over, as stored values always did
-        {"1,2", std::nullopt},
-        {"1 ,2,3", std::nullopt},  // the comma must follow a number directly
-        {"1,2,4294967296", std::nullopt},
-        {"", std::nullopt},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(vx::ParseColorText(row.text), row.color) << '"' << row.text << '"';
+// The round trips of the stored texts are in the profile test below.
+TEST(DialogBarTextTest, TextsAreReadAsScanfReadsThemAndFontNumbersWhollyOrNotAtAll) {
     EXPECT_EQ(vx::FormatColorText(MakeColor(255, 128, 0)), "255,128,0");
-    for (const ColorRef color : {0x000000u, 0xFFFFFFu, 0x123456u})
-        EXPECT_EQ(vx::ParseColorText(vx::FormatColorText(color)), color);
-}
-
-TEST(DialogBarTextTest, FontNumbersRoundTripExactlyOrAreNotTakenOver) {
-    EXPECT_EQ(vx::FormatLogFontNumbers(kFont), kFontNumbers);
-    LogFont read;
-    read.SetFaceName(kFont.FaceName());
-    ASSERT_TRUE(vx::ParseLogFontNumbers(kFontNumbers, read));
-    EXPECT_EQ(read, kFont);
+    // Blanks before the numbers and anything after them are fine, and a number beyond a channel
+    // spills over, as stored values always did; fewer than three numbers, a blank before a comma
+    // or a number beyond 32 bits are not.
+    EXPECT_EQ(vx::ParseColorText(" 1,\t+2, 3 and more"), 0x030201u);
+    EXPECT_EQ(vx::ParseColorText("300,0,0"), 300u);
+    for (const char* refused : {"1,2", "1 ,2,3", "1,2,4294967296"})
+        EXPECT_EQ(vx::ParseColorText(refused), std::nullopt) << refused;
+    LogFont read = kFont;
     for (const char* refused :
          {"-11,0,0,0,700,0,0,0,1,0,0,0", "-11,0,0,0,700,0,0,0,1,0,0,0,256",
           "-11,0,0,0,700,-1,0,0,1,0,0,0,32", "-11,0,0,0,2147483648,0,0,0,1,0,0,0,32"}) {
@@ -64,80 +49,58 @@ TEST(DialogBarTextTest, FontNumbersRoundTripExactlyOrAreNotTakenOver) {
 TEST(DialogBarTextTest, TextControlMovesOnlyInBarsOfAtLeastFiveByNine) {
     EXPECT_EQ(vx::DialogBarTextRect(5, 9), (vx::BarRect{2, 4, 1, 1}));
     EXPECT_EQ(vx::DialogBarTextRect(300, 24), (vx::BarRect{2, 4, 296, 16}));
-    for (const auto& [w, h] : {std::pair{4, 24}, {300, 8}, {0, 0}})
+    for (const auto& [w, h] : {std::pair{4, 24}, {300, 8}})
         EXPECT_EQ(vx::DialogBarTextRect(w, h), std::nullopt) << w << " x " << h;
 }
 
 class DialogBarLookTest : public vx::test::HomeTest {
 protected:
-    ~DialogBarLookTest() override { RApplication::SetCurrent(m_previous); }
-
+    ~DialogBarLookTest() override { RApplication::SetCurrent(previous); }
     std::string Stored(const char* key) const {
         return app.GetProfileString("DialogBar", key, "<absent>").str();
     }
-    void Store(const char* key, const char* value) {
-        ASSERT_TRUE(app.WriteProfileString("DialogBar", key, value));
-    }
 
     RApplication app{"DialogBarTest", "vxdecortest"};
-
-private:
-    RApplication* m_previous = RApplication::SetCurrent(&app);
+    RApplication* previous = RApplication::SetCurrent(&app);
 };
 
-TEST_F(DialogBarLookTest, ColorsFallBackOnTheSystemColorAndKeepItWhenNothingWasStored) {
-    const ColorRef shadow = MakeColor(128, 128, 128);
-    const struct {
-        const char* stored;  // null: absent
-        ColorRef read;
-        const char* storedAfter;
-    } rows[] = {
-        {nullptr, shadow, "128,128,128"},  // written back in "%d,%d,%d" form
-        {"", shadow, "128,128,128"},
-        {"255,0,0", MakeColor(255, 0, 0), "255,0,0"},
-        {"12,34", shadow, "12,34"},  // not taken over, and left for its writer to correct
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.stored != nullptr ? row.stored : "<absent>");
-        app.WriteProfileString("DialogBar", nullptr, nullptr);
-        if (row.stored != nullptr) Store("BackgroundColor", row.stored);
-        EXPECT_EQ(vx::LoadDialogBarBackground(shadow), row.read);
-        EXPECT_EQ(Stored("BackgroundColor"), row.storedAfter);
+TEST_F(DialogBarLookTest, LookRoundTripsThroughTheProfileOverTheSystemDefaults) {
+    const vx::DialogBarSystemColors system{MakeColor(128, 128, 128), MakeColor(1, 2, 3)};
+    // Nothing stored: the system colours, which are written back, and the default font, which
+    // is not.
+    EXPECT_EQ(
+        vx::LoadDialogBarLook(system),
+        (vx::DialogBarLook{system.buttonShadow, system.captionText, vx::DefaultDialogBarFont()}));
+    EXPECT_EQ(Stored("BackgroundColor") + " " + Stored("TextColor") + " " + Stored("TextLogfont") +
+                  Stored("FontName"),
+              "128,128,128 1,2,3 <absent><absent>");
+
+    const vx::DialogBarLook chosen{MakeColor(0, 64, 128), MakeColor(250, 240, 230), kFont};
+    ASSERT_TRUE(vx::SaveDialogBarLook(chosen));
+    EXPECT_EQ(Stored("TextLogfont") + " " + Stored("FontName"),
+              std::string(kFontNumbers) + " Courier New");
+    EXPECT_EQ(vx::LoadDialogBarLook(system), chosen);
+
+    // An empty colour is written back as well; one that does not read is not taken over, and is
+    // left for its writer to correct.
+    for (const auto& [stored, after] : {std::pair{"", "128,128,128"}, {"12,34", "12,34"}}) {
+        app.WriteProfileString("DialogBar", "BackgroundColor", stored);
+        EXPECT_EQ(vx::LoadDialogBarBackground(system.buttonShadow), system.buttonShadow);
+        EXPECT_EQ(Stored("BackgroundColor"), after);
     }
-    // The text colour works alike under its own key; once stored, the system colour is ignored.
-    EXPECT_EQ(vx::LoadDialogBarTextColor(MakeColor(255, 255, 255)), MakeColor(255, 255, 255));
-    EXPECT_EQ(vx::LoadDialogBarTextColor(MakeColor(1, 2, 3)), MakeColor(255, 255, 255));
-    EXPECT_EQ(Stored("TextColor"), "255,255,255");
+    // Without a face name the numbers still count; numbers that do not all read give the whole
+    // default font.
+    app.WriteProfileString("DialogBar", "FontName", nullptr);
+    LogFont faceless = kFont;
+    faceless.SetFaceName("");
+    EXPECT_EQ(vx::LoadDialogBarFont(), faceless);
+    app.WriteProfileString("DialogBar", "TextLogfont", "-11,0,0,0,700");
+    EXPECT_EQ(vx::LoadDialogBarFont(), vx::DefaultDialogBarFont());
 
     // Without an application profile the system colour is all there is.
     RApplication::SetCurrent(nullptr);
     EXPECT_EQ(vx::LoadDialogBarBackground(MakeColor(1, 2, 3)), MakeColor(1, 2, 3));
     EXPECT_FALSE(vx::SaveDialogBarBackground(MakeColor(1, 2, 3)));
-}
-
-TEST_F(DialogBarLookTest, LookRoundTripsThroughTheProfile) {
-    const vx::DialogBarSystemColors system{MakeColor(128, 128, 128), MakeColor(0, 0, 0)};
-    // Without a stored font the default one is used, and not stored.
-    EXPECT_EQ(
-        vx::LoadDialogBarLook(system),
-        (vx::DialogBarLook{system.buttonShadow, system.captionText, vx::DefaultDialogBarFont()}));
-    EXPECT_EQ(Stored("TextLogfont") + Stored("FontName"), "<absent><absent>");
-
-    const vx::DialogBarLook chosen{MakeColor(0, 64, 128), MakeColor(250, 240, 230), kFont};
-    ASSERT_TRUE(vx::SaveDialogBarLook(chosen));
-    EXPECT_EQ(Stored("TextLogfont"), kFontNumbers);
-    EXPECT_EQ(Stored("FontName"), "Courier New");
-    EXPECT_EQ(vx::LoadDialogBarLook(system), chosen);
-
-    // Without a face name the numbers still count; numbers that do not all read give the whole
-    // default font, face name included.
-    app.WriteProfileString("DialogBar", "FontName", nullptr);
-    LogFont faceless = kFont;
-    faceless.SetFaceName("");
-    EXPECT_EQ(vx::LoadDialogBarFont(), faceless);
-    Store("FontName", "Courier New");
-    Store("TextLogfont", "-11,0,0,0,700");
-    EXPECT_EQ(vx::LoadDialogBarFont(), vx::DefaultDialogBarFont());
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "vxutil/decor/MenuMerge.h"
 
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,70 +10,58 @@
 namespace {
 
 // An in-memory menu written as "File(Open, -, Exit), Help": a name with parentheses is a pop-up,
-// "-" a separator. It refuses the operation named `refused`, and so do its pop-ups.
-class FakeMenu : public vx::MergeMenu {
-public:
-    explicit FakeMenu(std::string_view layout, std::string refused = "")
-        : m_refused(std::move(refused)) {
+// "-" a separator. It and its pop-ups refuse the operation named `refused`.
+struct FakeMenu : vx::MergeMenu {
+    explicit FakeMenu(std::string_view layout, std::string refusing = "")
+        : refused(std::move(refusing)) {
         Parse(layout);
     }
-
-    int GetItemCount() const override { return static_cast<int>(m_items.size()); }
-    std::string GetItemText(int index) const override { return m_items.at(index).text; }
-    bool IsSeparator(int index) const override { return GetItemText(index) == "-"; }
-    MergeMenu* GetSubMenu(int index) const override { return m_items.at(index).popup; }
-    bool InsertItem(int before, const MergeMenu& source, int index) override {
-        return Insert("InsertItem", before, {source.GetItemText(index), nullptr});
+    int GetItemCount() const override { return static_cast<int>(items.size()); }
+    std::string GetItemText(int i) const override { return items.at(i).first; }
+    bool IsSeparator(int i) const override { return GetItemText(i) == "-"; }
+    MergeMenu* GetSubMenu(int i) const override { return items.at(i).second; }
+    bool InsertItem(int at, const MergeMenu& from, int i) override {
+        return Insert("InsertItem", at, {from.GetItemText(i), nullptr});
     }
-    bool InsertSeparator(int before) override { return Insert("InsertSeparator", before, {"-"}); }
-    MergeMenu* CreatePopup() override { return m_refused == "CreatePopup" ? nullptr : NewPopup(); }
-    bool InsertPopup(int before, MergeMenu& popup, const MergeMenu& source, int index) override {
-        return Insert("InsertPopup", before,
-                      {source.GetItemText(index), static_cast<FakeMenu*>(&popup)});
+    bool InsertSeparator(int at) override { return Insert("InsertSeparator", at, {"-", nullptr}); }
+    MergeMenu* CreatePopup() override { return refused == "CreatePopup" ? nullptr : NewPopup(); }
+    bool InsertPopup(int at, MergeMenu& popup, const MergeMenu& from, int i) override {
+        return Insert("InsertPopup", at, {from.GetItemText(i), static_cast<FakeMenu*>(&popup)});
     }
 
-    std::string Layout() const {
-        std::string text;
-        for (const Item& item : m_items)
-            text += (text.empty() ? "" : ", ") + item.text +
-                    (item.popup != nullptr ? "(" + item.popup->Layout() + ")" : "");
-        return text;
-    }
-
-private:
-    struct Item {
-        std::string text;
-        FakeMenu* popup = nullptr;
-    };
-
-    bool Insert(const char* operation, int before, const Item& item) {
-        if (m_refused == operation) return false;
-        EXPECT_TRUE(before == kAppend || (before >= 0 && before <= GetItemCount())) << before;
-        m_items.insert(before == kAppend ? m_items.end() : m_items.begin() + before, item);
+    bool Insert(std::string_view operation, int at, std::pair<std::string, FakeMenu*> item) {
+        EXPECT_TRUE(at == kAppend || (at >= 0 && at <= GetItemCount())) << at;
+        if (refused == operation) return false;
+        items.insert(at == kAppend ? items.end() : items.begin() + at, std::move(item));
         return true;
     }
-    FakeMenu* NewPopup() {
-        return m_popups.emplace_back(std::make_unique<FakeMenu>("", m_refused)).get();
-    }
-    // Reads items up to the end or an unmatched ")", which it leaves in `layout`.
-    void Parse(std::string_view& layout) {
-        while (!layout.empty() && layout.front() != ')') {
-            const std::size_t end = std::min(layout.find_first_of("(),"), layout.size());
-            Item& item = m_items.emplace_back(Item{std::string(layout.substr(0, end))});
-            item.text.erase(0, item.text.find_first_not_of(' '));
-            layout.remove_prefix(end);
-            if (!layout.empty() && layout.front() == '(') {
-                layout.remove_prefix(1);
-                (item.popup = NewPopup())->Parse(layout);
-                layout.remove_prefix(1);
+    FakeMenu* NewPopup() { return popups.emplace_back(new FakeMenu("", refused)).get(); }
+    // Reads items up to the end or a ")", which it consumes.
+    void Parse(std::string_view& rest) {
+        for (std::string* text = nullptr; !rest.empty();) {
+            const char c = rest.front();
+            rest.remove_prefix(1);
+            if (c == ')') return;
+            if (c == '(') {
+                (items.back().second = NewPopup())->Parse(rest);
+            } else if (c == ',') {
+                text = nullptr;
+            } else if (c != ' ' || text != nullptr) {
+                (text != nullptr ? *text : *(text = &items.emplace_back().first)) += c;
             }
-            if (!layout.empty() && layout.front() == ',') layout.remove_prefix(1);
         }
     }
+    std::string Layout() const {
+        std::string layout;
+        for (const auto& [text, popup] : items)
+            layout += (layout.empty() ? "" : ", ") + text +
+                      (popup != nullptr ? "(" + popup->Layout() + ")" : "");
+        return layout;
+    }
 
-    std::vector<Item> m_items;
-    std::vector<std::unique_ptr<FakeMenu>> m_popups;
-    std::string m_refused;
+    std::vector<std::pair<std::string, FakeMenu*>> items;  // a text and its pop-up, if any
+    std::vector<std::unique_ptr<FakeMenu>> popups;
+    std::string refused;
 };
 
 // Each row merges a source into a destination that refuses the operation named, if any, and
@@ -85,22 +72,18 @@ TEST(MenuMergeTest, MergesBeforeTheAnchorsOfAMenuBarAndIntoPopupsOfTheSameName) 
         bool topLevel;
         const char *merged, *refused = "", *report = "";
     } rows[] = {
-        {"File(Open), He&lp(About)", "Tools(Options)", true,
-         "File(Open), Tools(Options), He&lp(About)"},
+        {"File, He&lp", "Tools", true, "File, Tools, He&lp"},
         // Items keep their order and all go before the first anchor, "&" or not ...
-        {"File, ?, &Window, Help", "Edit, -, Print", true,
-         "File, Edit, -, Print, ?, &Window, Help"},
-        {"&Window", "File", true, "File, &Window"},
+        {"?, &Window, Help", "Edit, -, Print", true, "Edit, -, Print, ?, &Window, Help"},
         // ... or at the end without one; only the English names are anchors.
-        {"File(Open), &Hilfe", "Tools(Options)", true, "File(Open), &Hilfe, Tools(Options)"},
+        {"File, &Hilfe", "Tools", true, "File, &Hilfe, Tools"},
         // A pop-up has no anchors, at the top as below it.
         {"File, Help", "Tools", false, "File, Help, Tools"},
         {"&File(&Open, Help, Recent(One)), Help", "F&ile(&Recent(Two), Save), Tools", true,
          "&File(&Open, Help, Recent(One, Two), Save), Tools, Help"},
         // Only a pop-up matches a pop-up, and a new pop-up gets the whole content.
-        {"File(Open), Print", "Print(Setup(Paper, -, Tray)), file(New)", true,
-         "File(Open), Print, Print(Setup(Paper, -, Tray)), file(New)"},
-        {"File(Open)", "", true, "File(Open)"},
+        {"File(Open), Print, Print(Old)", "Print(Setup(Paper, -, Tray)), file(New)", true,
+         "File(Open), Print, Print(Old, Setup(Paper, -, Tray)), file(New)"},
         // A refused operation is reported, and the rest still merges.
         {"File(Open), Help", "File(Save), Tools, -", true, "File(Open), -, Help", "InsertItem",
          "MergeMenu: AppendMenu failed!\nMergeMenu: InsertMenu failed!\n"},

@@ -1,25 +1,17 @@
 #include "vxutil/listctrl/ColumnSettings.h"
 
-#include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "vxutil/runtime/RTrace.h"
+#include "vxutil/listctrl/ItemEnabledData.h"
 
 namespace {
 
-// Keeps the texts of the method-trace entries instead of writing them to a profile.
-struct RecordingTrace : RTrace {
-    RecordingTrace() : RTrace(0, kTraceAllLevels, "Debug", "Trace", 1) {}
-    ~RecordingTrace() override { RTrace::SetModule(previous); }
-    int Trace(const char* text, unsigned long) override {
-        entries.emplace_back(text);
-        return 1;
-    }
-    std::vector<std::string> entries;
-    RTrace* previous = RTrace::SetModule(this);
-};
+// A row's item data holds its disabled flag: 0 or negative is enabled, and enabling writes 0.
+static_assert(vx::IsItemDataEnabled(0) && vx::IsItemDataEnabled(-7) && !vx::IsItemDataEnabled(1));
+static_assert(vx::ItemDataForEnabled(true) == 0 && vx::ItemDataForEnabled(false) == 1);
 
 class ColumnSettingsTest : public ::testing::Test {
 protected:
@@ -29,72 +21,39 @@ protected:
 
 TEST_F(ColumnSettingsTest, TypesImagesAndMenusNeedAnExistingColumnOrTheDefault) {
     EXPECT_EQ(settings.GetColumnType(0), vx::kCellText);
-    EXPECT_TRUE(settings.EnableColumnType(1, vx::kCellHexadecimal));
-    for (auto [column, type] : {std::pair{2, 7u}, {2, 0u}, {3, 2u}, {-2, 2u}})
-        EXPECT_FALSE(settings.EnableColumnType(column, type)) << column << " " << type;
-    EXPECT_TRUE(settings.EnableColumnType(-1, vx::kCellCheckBox));
-    EXPECT_TRUE(settings.EnableColumnImage(2, 0x51));
-    EXPECT_TRUE(settings.EnableColumnImageOverlay(1, 0x52));
-    EXPECT_FALSE(settings.EnableColumnImage(3, 0x53));
-    EXPECT_TRUE(settings.EnableContextMenu(-1, 3021));
-    EXPECT_TRUE(settings.EnableContextMenu(1, 3022));
-    EXPECT_TRUE(settings.EnableContextMenu(2, 3023));
-    EXPECT_TRUE(settings.EnableContextMenu(2, 0));  // back to the default
-    EXPECT_FALSE(settings.EnableContextMenu(3, 3024));
-    const struct {
-        unsigned type;
-        vx::ColumnImage image, overlay;
-        int menu;
-    } expected[] = {{2, 0, 0, 3021},
-                    {2, 0, 0, 3021},
-                    {5, 0, 0x52, 3022},
-                    {2, 0x51, 0, 3021},
-                    {2, 0, 0, 3021}};  // columns -1 to 3
-    for (int column = -1; column <= 3; ++column) {
-        const auto& e = expected[column + 1];
-        EXPECT_EQ(settings.GetColumnType(column), e.type) << column;
-        EXPECT_EQ(settings.GetColumnImage(column), e.image) << column;
-        EXPECT_EQ(settings.GetColumnImageOverlay(column), e.overlay) << column;
-        EXPECT_EQ(settings.GetContextMenu(column), e.menu) << column;
-    }
+    for (unsigned type = 0; type <= 7; ++type)  // leaves column 0 at type 6
+        EXPECT_EQ(settings.EnableColumnType(0, type), type >= 1 && type <= 6) << type;
+    EXPECT_FALSE(settings.EnableColumnType(3, 2) || settings.EnableColumnType(-2, 2));
+    EXPECT_TRUE(settings.EnableColumnType(-1, vx::kCellCheckBox) &&
+                settings.EnableColumnImage(2, 0x51) && settings.EnableColumnImageOverlay(1, 0x52));
+    EXPECT_TRUE(settings.EnableContextMenu(-1, 3021) && settings.EnableContextMenu(1, 3022) &&
+                settings.EnableContextMenu(2, 3023) && settings.EnableContextMenu(2, 0));
+    EXPECT_FALSE(settings.EnableColumnImage(3, 0x53) || settings.EnableContextMenu(3, 3024));
+    // Columns -1 to 3: type, image, overlay and menu (0 gives a column the default back).
+    std::vector<std::tuple<unsigned, vx::ColumnImage, vx::ColumnImage, int>> read;
+    for (int column = -1; column <= 3; ++column)
+        read.emplace_back(settings.GetColumnType(column), settings.GetColumnImage(column),
+                          settings.GetColumnImageOverlay(column), settings.GetContextMenu(column));
+    EXPECT_EQ(read, (decltype(read){{2, 0, 0, 3021},
+                                    {6, 0, 0, 3021},
+                                    {2, 0, 0x52, 3022},
+                                    {2, 0x51, 0, 3021},
+                                    {2, 0, 0, 3021}}));
     columns = 4;  // existence is asked of the view each time
-    EXPECT_TRUE(settings.EnableColumnType(3, vx::kCellPrivateNumber));
-    EXPECT_EQ(settings.GetColumnType(3), vx::kCellPrivateNumber);
+    EXPECT_TRUE(settings.EnableColumnType(3, vx::kCellHexadecimal));
 }
 
 TEST_F(ColumnSettingsTest, KorvelSwitchesMayPrecedeTheirColumns) {
-    EXPECT_TRUE(settings.CanColumnSize(2));
-    EXPECT_FALSE(settings.CanColumnSize(3));  // not there
-    EXPECT_FALSE(settings.CanColumnSize(-1));
-    EXPECT_TRUE(settings.EnableColumnSize(1, false));
-    EXPECT_TRUE(settings.EnableColumnSize(4, false));
-    EXPECT_TRUE(settings.EnableColumnToggle(1, true, 3205));
-    EXPECT_TRUE(settings.EnableColumnToggle(4, false, 3211));
-    EXPECT_TRUE(settings.EnableDirectEdit(4, true));
-    EXPECT_FALSE(settings.EnableDirectEdit(-1, true));
+    EXPECT_TRUE(settings.EnableColumnSize(4, false) && settings.EnableDirectEdit(4, true) &&
+                settings.EnableColumnToggle(4, false, 3211) &&
+                settings.EnableColumnToggle(1, true, 3205));
+    EXPECT_FALSE(settings.EnableColumnSize(-1, false) || settings.EnableDirectEdit(-1, true));
+    EXPECT_FALSE(settings.CanColumnSize(3) || settings.CanColumnSize(4));  // not there yet
     columns = 6;
-    EXPECT_FALSE(settings.CanColumnSize(1));
-    EXPECT_FALSE(settings.CanColumnSize(4));
-    EXPECT_TRUE(settings.CanColumnSize(5));
-    EXPECT_TRUE(settings.CanToggle(1));
-    EXPECT_FALSE(settings.CanToggle(4));
+    EXPECT_TRUE(settings.CanColumnSize(5) && !settings.CanColumnSize(4));
+    EXPECT_TRUE(settings.CanToggle(1) && !settings.CanToggle(4));
+    EXPECT_TRUE(settings.IsDirectEdit(4) && !settings.IsDirectEdit(1));
     EXPECT_EQ(settings.GetToggleCommand(4), 3211u);  // kept while toggling is off
-    EXPECT_TRUE(settings.IsDirectEdit(4));
-    EXPECT_FALSE(settings.IsDirectEdit(1));
-}
-
-TEST_F(ColumnSettingsTest, OperationsTraceUnderTheirListControlClass) {
-    RecordingTrace trace;
-    settings.EnableColumnType(0, vx::kCellCheckBox);
-    settings.EnableContextMenu(-1, 1);
-    settings.CanToggle(0);
-    EXPECT_EQ(trace.entries,
-              (std::vector<std::string>{"RListCtrl:CColumnEditListCtrl::EnableColumnType:Enter",
-                                        "RListCtrl:CColumnEditListCtrl::EnableColumnType:Exit",
-                                        "RListCtrl:CColumnMenuListCtrl::EnableContextMenu:Enter",
-                                        "RListCtrl:CColumnMenuListCtrl::EnableContextMenu:Exit",
-                                        "RListCtrl:CKorvelListCtrl::CanToggle:Enter",
-                                        "RListCtrl:CKorvelListCtrl::CanToggle:Exit"}));
 }
 
 TEST(ColumnFromXTest, RunningWidthsFindTheColumnUnderX) {
