@@ -179,6 +179,18 @@ private Q_SLOTS:
         QVERIFY(f.EditorOpen(0, kFolder));
         QCOMPARE(QDir(folder->text()), QDir(home));
         QCOMPARE(f.list.GetItemText(0, kFolder), u"/tmp"_s);
+
+        // A folder that does not exist is offered for creation; No (the default) keeps the editor.
+        folder->setText(home + u"/missing"_s);
+        vx::test::OnNextModal([&](QWidget& box) {
+            auto* message = qobject_cast<QMessageBox*>(&box);
+            shown = message != nullptr ? message->text() : u"?"_s;
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        QTest::keyClick(folder, Qt::Key_Return);
+        QVERIFY2(shown.contains(u"This folder does not exist"_s), qPrintable(shown));
+        QVERIFY(f.EditorOpen(0, kFolder) && !QDir(home + u"/missing"_s).exists());
+        QCOMPARE(f.list.GetItemText(0, kFolder), u"/tmp"_s);
     }
 
     void toggleColumnPostsItsCommandAndKeepsItsWidth() {
