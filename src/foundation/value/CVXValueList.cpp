@@ -89,6 +89,7 @@ bool CVXValueList::Decode(const char*& cursor) {
         CVXValueStruct value;
         if (cursor == nullptr || !value.Decode(cursor) || !AddValue(value)) return false;
     }
+    vx::definition::SkipLineFeed(cursor);
     return true;
 }
 

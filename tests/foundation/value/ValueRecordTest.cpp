@@ -89,6 +89,10 @@ TEST_F(ValueRecordTest, ValueListsCopyEncodeAndExport) {
     const char* cursor = text.c_str();
     ASSERT_TRUE(decoded.Decode(cursor));
     CGNString again;
+    const std::string followed = text.str() + "\n1\\";  // a list's line feed, then more text
+    cursor = followed.c_str();
+    ASSERT_TRUE(CVXValueList().Decode(cursor));
+    EXPECT_STREQ(cursor, "1\\");
     ASSERT_TRUE(decoded.GetEncodedText(again));
     EXPECT_EQ(again, text);
 
