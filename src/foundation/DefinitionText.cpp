@@ -2,29 +2,16 @@
 
 #include <string>
 
+#include "foundation/Number32.h"
 #include "vxutil/gnrt/MultiByte.h"
 
 namespace vx::definition {
 namespace {
 
-constexpr std::uint64_t kUnsignedMax = 0xFFFFFFFFu;
-// Magnitudes are kept up to this bound, far enough above every 32-bit limit to saturate.
-constexpr std::uint64_t kMagnitudeCap = kUnsignedMax * 4;
-
-struct Number {
-    bool negative = false;
-    std::uint64_t magnitude = 0;
-};
-
 // The decimal conversion at the cursor, then the step past the field's backslash.
-bool ReadNumber(const char*& cursor, Number& number) {
+bool ReadNumber(const char*& cursor, vx::number32::Scanned& number) {
     if (cursor == nullptr || *cursor == '\0') return false;
-    const char* p = cursor;
-    if (*p == '+' || *p == '-') number.negative = (*p++ == '-');
-    for (; *p >= '0' && *p <= '9'; ++p) {
-        number.magnitude = number.magnitude * 10 + static_cast<std::uint64_t>(*p - '0');
-        if (number.magnitude > kMagnitudeCap) number.magnitude = kMagnitudeCap;
-    }
+    number = vx::number32::Scan(cursor);
     const char* backslash = vx::mb::FindChar(cursor, '\\');
     cursor = backslash != nullptr ? backslash + 1 : nullptr;
     return true;
@@ -33,15 +20,13 @@ bool ReadNumber(const char*& cursor, Number& number) {
 }  // namespace
 
 void WriteUnsigned(CGNString& out, std::uint32_t value) {
-    CGNString field;
-    field.Format("%lu\\", static_cast<unsigned long>(value));
-    out += field;
+    vx::number32::AppendUnsigned(out, value);
+    out += '\\';
 }
 
 void WriteSigned(CGNString& out, std::int32_t value) {
-    CGNString field;
-    field.Format("%ld\\", static_cast<long>(value));
-    out += field;
+    vx::number32::AppendSigned(out, value);
+    out += '\\';
 }
 
 void WriteString(CGNString& out, const char* text) {
@@ -57,28 +42,16 @@ void WriteString(CGNString& out, const char* text) {
 }
 
 bool ReadSigned(const char*& cursor, std::int32_t& value) {
-    Number number;
+    vx::number32::Scanned number;
     if (!ReadNumber(cursor, number)) return false;
-    if (number.negative) {
-        value = number.magnitude > 0x80000000u
-                    ? INT32_MIN
-                    : static_cast<std::int32_t>(-static_cast<std::int64_t>(number.magnitude));
-    } else {
-        value = number.magnitude > 0x7FFFFFFFu ? INT32_MAX
-                                               : static_cast<std::int32_t>(number.magnitude);
-    }
+    value = vx::number32::Signed(number);
     return true;
 }
 
 bool ReadUnsigned(const char*& cursor, std::uint32_t& value) {
-    Number number;
+    vx::number32::Scanned number;
     if (!ReadNumber(cursor, number)) return false;
-    if (number.magnitude > kUnsignedMax) {
-        value = static_cast<std::uint32_t>(kUnsignedMax);
-    } else {
-        const auto magnitude = static_cast<std::uint32_t>(number.magnitude);
-        value = number.negative ? 0u - magnitude : magnitude;
-    }
+    value = vx::number32::Unsigned(number);
     return true;
 }
 

@@ -61,9 +61,9 @@ bool CVXEntryListFieldList::Decode(const char* text) {
     const std::size_t prefix = std::strlen(kEntryListFieldsPrefix);
     if (text == nullptr || std::strncmp(text, kEntryListFieldsPrefix, prefix) != 0) return false;
     const char* cursor = text + prefix;
-    unsigned long count = 0;
+    std::uint32_t count = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, count)) return false;
-    for (unsigned long i = 0; i < count; ++i) {
+    for (std::uint32_t i = 0; i < count; ++i) {
         CVXEntryListFieldStruct field;
         if (!field.Decode(cursor) || !vx::elements::InsertCopy(*this, GetCount(), field)) {
             Free();

@@ -20,15 +20,15 @@ void CVXEntryListFieldStruct::CopyTo(VXEntryListFieldStruct& record) const {
 }
 
 const CGNString& CVXEntryListFieldStruct::GetEncodedText() {
-    m_strEncoded.Format("%ld\\%u\\%u\\%s", static_cast<long>(m_nFieldId),
+    m_strEncoded.Format("%ld\\%u\\%u\\%s", static_cast<long>(static_cast<std::int32_t>(m_nFieldId)),
                         static_cast<unsigned>(m_nColumnWidth),
                         static_cast<unsigned>(m_strSeparator.GetLength()), m_strSeparator.c_str());
     return m_strEncoded;
 }
 
 bool CVXEntryListFieldStruct::Decode(const char*& cursor) {
-    long fieldId = 0;
-    unsigned long width = 0, length = 0;
+    std::int32_t fieldId = 0;
+    std::uint32_t width = 0, length = 0;
     if (!vx::encoded::ReadLong(cursor, fieldId) || !vx::encoded::ReadUnsignedLong(cursor, width) ||
         !vx::encoded::ReadUnsignedLong(cursor, length) || length >= VX_SEPARATOR_BUFFER_SIZE ||
         std::strlen(cursor) < length)

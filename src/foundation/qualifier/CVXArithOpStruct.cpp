@@ -132,7 +132,7 @@ bool CVXArithOpStruct::Encode(CGNString& out) const {
 }
 
 bool CVXArithOpStruct::Decode(const char*& cursor) {
-    unsigned long code = 0;
+    std::uint32_t code = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, code)) return false;
     m_nOperation = vx::qualifier::InternalArithmetic(code);
     if (m_nOperation != VX_ARITH_OP_NEGATE && !m_left.Decode(cursor)) return false;

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <new>
 
+#include "foundation/Number32.h"
 #include "foundation/qualifier/QualifierCodes.h"
 #include "foundation/value/EncodedFields.h"
 #include "vxutil/foundation/CVXArithOpStruct.h"
@@ -146,7 +147,7 @@ void CVXQualifierOperand::FreeRecord(VXFieldValueOrArithStruct& record) {
 void CVXQualifierOperand::ToText(CGNString& out) const {
     out.Empty();
     if (IsField()) {
-        out.Format("%ld", static_cast<long>(m_nFieldId));
+        out.Format("%ld", static_cast<long>(static_cast<std::int32_t>(m_nFieldId)));
     } else if (m_nKind == VX_VALUE) {
         m_value.GetQualifierText(out);
     } else {
@@ -177,12 +178,12 @@ bool CVXQualifierOperand::Encode(CGNString& out) const {
 
 bool CVXQualifierOperand::Decode(const char*& cursor) {
     Reset();
-    unsigned long tag = 0, number = 0;
+    std::uint32_t tag = 0, number = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, tag)) return false;
     m_nKind = vx::qualifier::InternalKind(tag);
     if (IsField()) {
         if (!vx::encoded::ReadUnsignedLong(cursor, number)) return false;
-        m_nFieldId = static_cast<std::uint32_t>(number);
+        m_nFieldId = number;
         return true;
     }
     switch (m_nKind) {
@@ -192,13 +193,13 @@ bool CVXQualifierOperand::Decode(const char*& cursor) {
             m_pArith = std::make_unique<CVXArithOpStruct>();
             return m_pArith->Decode(cursor);
         case VX_NUMBER_PAIR: {
-            char* end = nullptr;
-            m_pair.first = static_cast<std::uint32_t>(std::strtoul(cursor, &end, 10));
+            const char* end = nullptr;
+            m_pair.first = vx::number32::ToUnsignedLong(cursor, &end);
             if (end == cursor) return false;
             cursor = end;
             vx::encoded::SkipField(cursor);
             if (!vx::encoded::ReadUnsignedLong(cursor, number)) return false;
-            m_pair.second = static_cast<std::uint32_t>(number);
+            m_pair.second = number;
             return true;
         }
         default:

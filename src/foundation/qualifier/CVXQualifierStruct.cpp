@@ -204,7 +204,7 @@ bool CVXQualifierStruct::Decode(const char*& cursor) {
         cursor += 6;
         return true;
     }
-    unsigned long operation = 0;
+    std::uint32_t operation = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, operation)) return false;
     if (operation == VX_COND_NONE) return true;
     if (*cursor == '\0') return false;

@@ -67,7 +67,7 @@ bool CVXRelOpStruct::Encode(CGNString& out) const {
 }
 
 bool CVXRelOpStruct::Decode(const char*& cursor) {
-    unsigned long code = 0;
+    std::uint32_t code = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, code)) return false;
     m_nOperation = vx::qualifier::InternalRelation(code);
     return m_left.Decode(cursor) && m_right.Decode(cursor);

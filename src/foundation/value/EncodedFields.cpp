@@ -1,9 +1,9 @@
 #include "foundation/value/EncodedFields.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "foundation/Number32.h"
 #include "vxutil/gnrt/MultiByte.h"
 
 namespace vx::encoded {
@@ -25,18 +25,18 @@ void SkipField(const char*& cursor) {
     cursor = backslash != nullptr ? backslash + 1 : cursor + std::strlen(cursor);
 }
 
-bool ReadLong(const char*& cursor, long& value) {
-    char* end = nullptr;
-    value = std::strtol(cursor, &end, 10);
+bool ReadLong(const char*& cursor, std::int32_t& value) {
+    const char* end = nullptr;
+    value = vx::number32::ToLong(cursor, &end);
     if (end == cursor) return false;
     cursor = end;
     SkipField(cursor);
     return true;
 }
 
-bool ReadUnsignedLong(const char*& cursor, unsigned long& value) {
-    char* end = nullptr;
-    value = std::strtoul(cursor, &end, 10);
+bool ReadUnsignedLong(const char*& cursor, std::uint32_t& value) {
+    const char* end = nullptr;
+    value = vx::number32::ToUnsignedLong(cursor, &end);
     if (end == cursor) return false;
     cursor = end;
     SkipField(cursor);

@@ -2,6 +2,8 @@
 // backslash, read from a moving position in a zero-terminated text.
 #pragma once
 
+#include <cstdint>
+
 #include "vxutil/gnrt/CGNString.h"
 
 namespace vx::encoded {
@@ -12,8 +14,9 @@ CGNString ClientText(const char* text, bool lineFeeds);
 
 // Moves past the next backslash, or to the end of the text when none follows.
 void SkipField(const char*& cursor);
-// A decimal number at the cursor, then past the next backslash. False when no digits are there.
-bool ReadLong(const char*& cursor, long& value);
-bool ReadUnsignedLong(const char*& cursor, unsigned long& value);
+// A decimal number at the cursor, saturated to 32 bits, then past the next backslash. False when
+// no digits are there.
+bool ReadLong(const char*& cursor, std::int32_t& value);
+bool ReadUnsignedLong(const char*& cursor, std::uint32_t& value);
 
 }  // namespace vx::encoded

@@ -1,6 +1,5 @@
 // The encoded text of a value, both ways. Real numbers are written and read in the "C"
 // numeric locale, whatever the user's locale.
-#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 
@@ -20,11 +19,11 @@ using vx::encoded::SkipField;
 
 // A character count, a backslash, that many characters and a closing backslash (or the end).
 bool ReadCounted(const char*& cursor, CGNString& text) {
-    unsigned long count = 0;
+    std::uint32_t count = 0;
     if (!ReadUnsignedLong(cursor, count)) return false;
     const char* start = cursor;
     std::size_t available = std::strlen(cursor);
-    for (unsigned long i = 0; i < count; ++i) {
+    for (std::uint32_t i = 0; i < count; ++i) {
         std::size_t length = vx::mb::CharLength(cursor, available);
         if (length == 0) return false;
         cursor += length;
@@ -80,11 +79,11 @@ bool CVXValueStruct::GetEncodedText(CGNString& out) const {
 
 bool CVXValueStruct::Decode(const char*& cursor) {
     if (cursor == nullptr) return false;
-    unsigned long type = 0;
+    std::uint32_t type = 0;
     if (!ReadUnsignedLong(cursor, type)) return false;
     if (*cursor == '\0' && type != VX_DATA_TYPE_NULL) return false;
-    long number = 0;
-    unsigned long unsignedNumber = 0;
+    std::int32_t number = 0;
+    std::uint32_t unsignedNumber = 0;
     CGNString text;
     switch (type) {
         case VX_DATA_TYPE_NULL:
@@ -94,26 +93,21 @@ bool CVXValueStruct::Decode(const char*& cursor) {
         case VX_DATA_TYPE_INTEGER:
         case VX_DATA_TYPE_TIME:
             if (!ReadLong(cursor, number)) return false;
-            if (type == VX_DATA_TYPE_KEYWORD) SetKeyword(static_cast<std::int32_t>(number));
-            if (type == VX_DATA_TYPE_INTEGER) SetInteger(static_cast<std::int32_t>(number));
-            if (type == VX_DATA_TYPE_TIME) SetTime(static_cast<std::int32_t>(number));
+            if (type == VX_DATA_TYPE_KEYWORD) SetKeyword(number);
+            if (type == VX_DATA_TYPE_INTEGER) SetInteger(number);
+            if (type == VX_DATA_TYPE_TIME) SetTime(number);
             return true;
         case VX_DATA_TYPE_ENUM:
         case VX_DATA_TYPE_BITMASK:
         case VX_DATA_TYPE_ULONG:
             if (!ReadUnsignedLong(cursor, unsignedNumber)) return false;
-            if (type == VX_DATA_TYPE_ENUM) SetEnum(static_cast<std::uint32_t>(unsignedNumber));
-            if (type == VX_DATA_TYPE_BITMASK)
-                SetBitmask(static_cast<std::uint32_t>(unsignedNumber));
-            if (type == VX_DATA_TYPE_ULONG) SetUnsigned(static_cast<std::uint32_t>(unsignedNumber));
+            if (type == VX_DATA_TYPE_ENUM) SetEnum(unsignedNumber);
+            if (type == VX_DATA_TYPE_BITMASK) SetBitmask(unsignedNumber);
+            if (type == VX_DATA_TYPE_ULONG) SetUnsigned(unsignedNumber);
             return true;
         case VX_DATA_TYPE_REAL: {
             char* end = nullptr;
-            double real = 0;
-            {
-                NumericLocaleScope classic;
-                real = std::strtod(cursor, &end);
-            }
+            const double real = vx::value::ParseReal(cursor, &end);
             if (end == cursor) return false;
             cursor = end;
             if (*cursor == '\\') ++cursor;
@@ -129,7 +123,7 @@ bool CVXValueStruct::Decode(const char*& cursor) {
             if (type == VX_DATA_TYPE_ATTACH) {
                 SetAttachment(text.c_str(), 0, 0, 0);
             } else {
-                SetText(static_cast<std::uint32_t>(type), text.c_str());
+                SetText(type, text.c_str());
             }
             return true;
         case VX_DATA_TYPE_BYTES:

@@ -5,7 +5,9 @@
 #include <cstring>
 #include <string>
 
+#include "foundation/Number32.h"
 #include "foundation/value/EncodedFields.h"
+#include "foundation/value/RealText.h"
 #include "vxutil/decimal/TKDecimalPortable.h"
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
@@ -14,6 +16,7 @@
 namespace {
 
 using vx::encoded::ClientText;
+using vx::number32::ToLong;
 
 constexpr long long kIntegerLimit = 2147483647;
 
@@ -41,7 +44,7 @@ bool WholeLongLong(const std::string& text, long long& value, bool& inRange) {
 bool WholeDouble(const std::string& text, double& value) {
     if (text.empty()) return false;
     char* end = nullptr;
-    value = std::strtod(text.c_str(), &end);
+    value = vx::value::ParseReal(text.c_str(), &end);
     return *end == '\0' && std::isfinite(value);
 }
 
@@ -67,13 +70,13 @@ bool CVXValueStruct::SetFromText(std::uint32_t type, const char* text) {
             SetNull();
             return true;
         case VX_DATA_TYPE_KEYWORD:
-            SetKeyword(static_cast<std::int32_t>(std::strtol(text, nullptr, 10)));
+            SetKeyword(ToLong(text));
             return true;
         case VX_DATA_TYPE_INTEGER:
-            SetInteger(static_cast<std::int32_t>(std::strtol(text, nullptr, 10)));
+            SetInteger(ToLong(text));
             return true;
         case VX_DATA_TYPE_REAL:
-            SetReal(std::strtod(text, nullptr));
+            SetReal(vx::value::ParseReal(text, nullptr));
             return true;
         case VX_DATA_TYPE_CHAR:
         case VX_DATA_TYPE_DIARY:
@@ -88,7 +91,7 @@ bool CVXValueStruct::SetFromText(std::uint32_t type, const char* text) {
         case VX_DATA_TYPE_ENUM:
         case VX_DATA_TYPE_BITMASK:
         case VX_DATA_TYPE_ULONG: {
-            const auto value = static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
+            const std::uint32_t value = vx::number32::ToUnsignedLong(text);
             if (type == VX_DATA_TYPE_ENUM) SetEnum(value);
             if (type == VX_DATA_TYPE_BITMASK) SetBitmask(value);
             if (type == VX_DATA_TYPE_ULONG) SetUnsigned(value);
@@ -98,7 +101,7 @@ bool CVXValueStruct::SetFromText(std::uint32_t type, const char* text) {
             CGNDateTime instant;
             SetTime(instant.parseDateTime(text, CGNDateTime::kParseDateTime)
                         ? static_cast<std::int32_t>(instant.GetSeconds())
-                        : static_cast<std::int32_t>(std::strtol(text, nullptr, 10)));
+                        : ToLong(text));
             return true;
         }
         default:

@@ -35,33 +35,6 @@ CGNString Quoted(const CGNString& text) {
 
 }  // namespace
 
-namespace vx::value {
-
-CGNString FormatReal(double value, int precision, bool general) {
-    CGNString text;
-    const double magnitude = std::fabs(value);
-    if (general && magnitude != 0 && (magnitude < 0.000001 || magnitude > 999999999)) {
-        if (precision == -1) {
-            text.Format("%lg", value);
-        } else {
-            text.Format("%.*lg", precision + 1, value);
-        }
-    } else if (precision == -1) {
-        text.Format("%lf", value);
-        if (text.Find('.') >= 0) {
-            std::size_t keep = text.GetLength();
-            while (keep > 0 && text[keep - 1] == '0')
-                --keep;
-            text = text.Left(keep);
-        }
-    } else {
-        text.Format("%.*lf", precision, value);
-    }
-    return text;
-}
-
-}  // namespace vx::value
-
 const char* CVXValueStruct::KeywordName(std::int32_t keyword) {
     for (const Keyword& entry : kKeywords) {
         if (entry.number == keyword) return entry.name;

@@ -36,6 +36,17 @@ TEST_F(EntryListTest, FieldListEncodesWithItsPrefix) {
     decoded.GetEncodedText(again);
     EXPECT_EQ(again, text);
 
+    // Field ids from 2^31 up are written as the 32-bit client writes them, negative, and read
+    // back to the same id; a larger number saturates.
+    CVXEntryListFieldList high;
+    high.AddField(Column(3000000000u, 1, ""));
+    high.GetEncodedText(text);
+    EXPECT_EQ(text, "   get-list-flds  : 1\\-1294967296\\1\\0\\");
+    ASSERT_TRUE(decoded.Decode(text.c_str()));
+    EXPECT_EQ(decoded.GetField(0)->GetFieldId(), 3000000000u);
+    ASSERT_TRUE(decoded.Decode("   get-list-flds  : 1\\3000000000\\1\\0\\"));
+    EXPECT_EQ(decoded.GetField(0)->GetFieldId(), 2147483647u);
+
     CVXEntryListFieldList empty;
     empty.GetEncodedText(text);
     EXPECT_EQ(text, "   get-list-flds  : 0\\");

@@ -2,6 +2,7 @@
 // integer range check and the date parser behind time input.
 #include <string>
 
+#include "decimal/CommaLocale.h"
 #include "support/TempHome.h"
 #include "vxutil/decimal/TKErrorHandlers.h"
 #include "vxutil/foundation/CVXValueStruct.h"
@@ -86,6 +87,24 @@ TEST_F(ValueInputTest, RealSetter) {
                 std::begin(cases), std::end(cases));
 }
 
+// Client tools run in the user's locale; typed and stored numbers still use the point.
+TEST_F(ValueInputTest, RealTextIsReadWithThePointInAnyLocale) {
+    vx::test::CommaLocale comma;
+    if (!comma.active()) GTEST_SKIP() << "no locale with a decimal comma is available";
+    const InputCase reals[] = {
+        {"2.5", true, "3\\2.5", 0},
+        {"2,5", false, "4\\3\\2,5", 25246},
+    };
+    ExpectCases([](CVXValueStruct& v, const char* t) { return v.SetRealFromUser(t); },
+                std::begin(reals), std::end(reals));
+    const InputCase integers[] = {{"12.7", true, "2\\12", 0}};
+    ExpectCases([](CVXValueStruct& v, const char* t) { return v.SetIntegerFromUser(t); },
+                std::begin(integers), std::end(integers));
+    CVXValueStruct value;
+    ASSERT_TRUE(value.SetFromText(VX_DATA_TYPE_REAL, "2.5"));
+    EXPECT_EQ(Encoded(value), "3\\2.5");
+}
+
 TEST_F(ValueInputTest, DecimalSetter) {
     const InputCase cases[] = {
         {"12.50", true, "10\\5\\12.50", 0},
@@ -137,6 +156,10 @@ TEST_F(ValueInputTest, SetFromTextConvertsWithoutValidating) {
     } const cases[] = {
         {VX_DATA_TYPE_KEYWORD, "3", "1\\3"},
         {VX_DATA_TYPE_INTEGER, "12abc", "2\\12"},
+        {VX_DATA_TYPE_INTEGER, "99999999999", "2\\2147483647"},  // saturates, never wraps
+        {VX_DATA_TYPE_KEYWORD, "-4294967297", "1\\-2147483648"},
+        {VX_DATA_TYPE_BITMASK, "4294967296", "8\\4294967295"},
+        {VX_DATA_TYPE_REAL, "2.5", "3\\2.5"},
         {VX_DATA_TYPE_ENUM, "7", "6\\7"},
         {VX_DATA_TYPE_BITMASK, "9", "8\\9"},
         {VX_DATA_TYPE_ULONG, "10", "40\\10"},
