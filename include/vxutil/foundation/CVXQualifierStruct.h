@@ -5,6 +5,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "vxutil/export.h"
 #include "vxutil/foundation/CVXRelOpStruct.h"
@@ -52,6 +54,15 @@ public:
 
 private:
     void Reset();
+    void Swap(CVXQualifierStruct& other);
+    // One node of a walk; the children still to be visited are pushed onto `children`.
+    bool CopyNodeFrom(
+        const VXQualifierStruct& record,
+        std::vector<std::pair<const VXQualifierStruct*, CVXQualifierStruct*>>& children);
+    bool DecodeNode(const char*& cursor, std::vector<CVXQualifierStruct*>& children);
+
+    // The child links, left, right and the NOT child.
+    static std::unique_ptr<CVXQualifierStruct> CVXQualifierStruct::*const kLinks[3];
 
     std::uint32_t m_nOperation = VX_COND_NONE;
     std::unique_ptr<CVXQualifierStruct> m_pLeft;

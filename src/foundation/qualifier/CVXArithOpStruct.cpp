@@ -102,6 +102,21 @@ bool DecimalResult(std::uint32_t operation, const TKDecimal& a, const TKDecimal&
     return true;
 }
 
+// Arithmetic nests through its operands and is walked recursively. No formula a person writes
+// nests this deep; a deeper one read from text or a record is refused, so that a hostile text
+// cannot exhaust the stack.
+constexpr int kMaxNesting = 64;
+thread_local int t_nesting = 0;
+
+class NestingLevel {
+public:
+    NestingLevel() { ++t_nesting; }
+    ~NestingLevel() { --t_nesting; }
+    NestingLevel(const NestingLevel&) = delete;
+    NestingLevel& operator=(const NestingLevel&) = delete;
+    bool TooDeep() const { return t_nesting > kMaxNesting; }
+};
+
 }  // namespace
 
 CVXArithOpStruct::CVXArithOpStruct(std::uint32_t operation, const CVXQualifierOperand& left,
@@ -109,6 +124,8 @@ CVXArithOpStruct::CVXArithOpStruct(std::uint32_t operation, const CVXQualifierOp
     : m_nOperation(operation), m_left(left), m_right(right) {}
 
 bool CVXArithOpStruct::CopyFrom(const VXArithOpStruct& record) {
+    const NestingLevel level;
+    if (level.TooDeep()) return false;
     m_nOperation = record.operation;
     return m_left.CopyFrom(record.operand1) && m_right.CopyFrom(record.operand2);
 }
@@ -132,6 +149,8 @@ bool CVXArithOpStruct::Encode(CGNString& out) const {
 }
 
 bool CVXArithOpStruct::Decode(const char*& cursor) {
+    const NestingLevel level;
+    if (level.TooDeep()) return false;
     std::uint32_t code = 0;
     if (!vx::encoded::ReadUnsignedLong(cursor, code)) return false;
     m_nOperation = vx::qualifier::InternalArithmetic(code);

@@ -2,7 +2,10 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <utility>
+#include <vector>
 
+#include "foundation/Number32.h"
 #include "foundation/value/EncodedFields.h"
 
 namespace {
@@ -12,17 +15,21 @@ Record* NewRecord() {
     return static_cast<Record*>(std::calloc(1, sizeof(Record)));
 }
 
-std::unique_ptr<CVXQualifierStruct> CopyOf(const std::unique_ptr<CVXQualifierStruct>& node) {
-    return node ? std::make_unique<CVXQualifierStruct>(*node) : nullptr;
-}
+using Link = std::unique_ptr<CVXQualifierStruct> CVXQualifierStruct::*;
 
-// A child node's record, allocated for the caller.
-bool CopyChild(const CVXQualifierStruct* child, VXQualifierStruct*& record) {
-    record = NewRecord<VXQualifierStruct>();
-    return record != nullptr && child != nullptr && child->CopyTo(*record);
-}
+// A step of a walk that writes text: a node to expand, or a piece of text to append.
+struct TextStep {
+    const CVXQualifierStruct* node;
+    const char* text;
+};
 
 }  // namespace
+
+std::unique_ptr<CVXQualifierStruct> CVXQualifierStruct::*const CVXQualifierStruct::kLinks[3] = {
+    &CVXQualifierStruct::m_pLeft, &CVXQualifierStruct::m_pRight, &CVXQualifierStruct::m_pNot};
+
+// Every walk over the tree keeps its own stack instead of recursing: a qualifier read from a
+// hostile or corrupt text may nest a few hundred thousand levels deep.
 
 CVXQualifierStruct::CVXQualifierStruct(const VXQualifierStruct& record) {
     CopyFrom(record);
@@ -34,23 +41,52 @@ CVXQualifierStruct::CVXQualifierStruct(const CVXQualifierStruct& other) {
 
 CVXQualifierStruct& CVXQualifierStruct::operator=(const CVXQualifierStruct& other) {
     if (this == &other) return *this;
-    m_nOperation = other.m_nOperation;
-    m_pLeft = CopyOf(other.m_pLeft);
-    m_pRight = CopyOf(other.m_pRight);
-    m_pNot = CopyOf(other.m_pNot);
-    m_pRelation =
-        other.m_pRelation ? std::make_unique<CVXRelOpStruct>(*other.m_pRelation) : nullptr;
+    // Built aside first, so that `other` may be part of this tree.
+    CVXQualifierStruct copy;
+    std::vector<std::pair<const CVXQualifierStruct*, CVXQualifierStruct*>> pending{{&other, &copy}};
+    while (!pending.empty()) {
+        const auto [from, to] = pending.back();
+        pending.pop_back();
+        to->m_nOperation = from->m_nOperation;
+        if (from->m_pRelation)
+            to->m_pRelation = std::make_unique<CVXRelOpStruct>(*from->m_pRelation);
+        for (const Link link : kLinks) {
+            if (!(from->*link)) continue;
+            to->*link = std::make_unique<CVXQualifierStruct>();
+            pending.emplace_back((from->*link).get(), (to->*link).get());
+        }
+    }
+    Swap(copy);
     return *this;
 }
 
-CVXQualifierStruct::~CVXQualifierStruct() = default;
+CVXQualifierStruct::~CVXQualifierStruct() {
+    Reset();
+}
 
 void CVXQualifierStruct::Reset() {
+    // Children are taken off before their node is destroyed, so destruction never nests.
+    std::vector<std::unique_ptr<CVXQualifierStruct>> pending;
+    auto detach = [&pending](CVXQualifierStruct& node) {
+        for (const Link link : kLinks) {
+            if (node.*link) pending.push_back(std::move(node.*link));
+        }
+    };
+    detach(*this);
+    while (!pending.empty()) {
+        std::unique_ptr<CVXQualifierStruct> node = std::move(pending.back());
+        pending.pop_back();
+        detach(*node);
+    }
     m_nOperation = VX_COND_NONE;
-    m_pLeft.reset();
-    m_pRight.reset();
-    m_pNot.reset();
     m_pRelation.reset();
+}
+
+void CVXQualifierStruct::Swap(CVXQualifierStruct& other) {
+    std::swap(m_nOperation, other.m_nOperation);
+    for (const Link link : kLinks)
+        std::swap(this->*link, other.*link);
+    std::swap(m_pRelation, other.m_pRelation);
 }
 
 CVXQualifierStruct CVXQualifierStruct::And(const CVXQualifierStruct& left,
@@ -85,18 +121,37 @@ CVXQualifierStruct CVXQualifierStruct::Relation(const CVXRelOpStruct& relation) 
 
 bool CVXQualifierStruct::CopyFrom(const VXQualifierStruct& record) {
     Reset();
+    // As ever, only the top node's own failure fails the copy; a failing node below is left as
+    // far as it was copied.
+    bool copied = true;
+    std::vector<std::pair<const VXQualifierStruct*, CVXQualifierStruct*>> pending{{&record, this}};
+    while (!pending.empty()) {
+        const auto [from, to] = pending.back();
+        pending.pop_back();
+        const bool ok = to->CopyNodeFrom(*from, pending);
+        if (to == this) copied = ok;
+    }
+    return copied;
+}
+
+bool CVXQualifierStruct::CopyNodeFrom(
+    const VXQualifierStruct& record,
+    std::vector<std::pair<const VXQualifierStruct*, CVXQualifierStruct*>>& children) {
     switch (record.operation) {
         case VX_COND_AND:
         case VX_COND_OR:
             if (record.u.andor.left == nullptr || record.u.andor.right == nullptr) return false;
             m_nOperation = record.operation;
-            m_pLeft = std::make_unique<CVXQualifierStruct>(*record.u.andor.left);
-            m_pRight = std::make_unique<CVXQualifierStruct>(*record.u.andor.right);
+            m_pLeft = std::make_unique<CVXQualifierStruct>();
+            m_pRight = std::make_unique<CVXQualifierStruct>();
+            children.emplace_back(record.u.andor.right, m_pRight.get());
+            children.emplace_back(record.u.andor.left, m_pLeft.get());
             return true;
         case VX_COND_NOT:
             if (record.u.notQual == nullptr) return false;
             m_nOperation = VX_COND_NOT;
-            m_pNot = std::make_unique<CVXQualifierStruct>(*record.u.notQual);
+            m_pNot = std::make_unique<CVXQualifierStruct>();
+            children.emplace_back(record.u.notQual, m_pNot.get());
             return true;
         case VX_COND_OPERATION:
             if (record.u.relOp == nullptr) return false;
@@ -110,95 +165,163 @@ bool CVXQualifierStruct::CopyFrom(const VXQualifierStruct& record) {
 
 bool CVXQualifierStruct::CopyTo(VXQualifierStruct& record) const {
     std::memset(&record, 0, sizeof record);
-    record.operation = m_nOperation;
-    switch (m_nOperation) {
-        case VX_COND_AND:
-        case VX_COND_OR:
-            return CopyChild(m_pLeft.get(), record.u.andor.left) &&
-                   CopyChild(m_pRight.get(), record.u.andor.right);
-        case VX_COND_NOT:
-            return CopyChild(m_pNot.get(), record.u.notQual);
-        case VX_COND_OPERATION:
-            record.u.relOp = NewRecord<VXRelOpStruct>();
-            return record.u.relOp != nullptr && m_pRelation->CopyTo(*record.u.relOp);
-        default:
-            return true;
+    // Records are allocated zeroed: whatever a failure leaves behind, FreeRecord releases.
+    std::vector<std::pair<const CVXQualifierStruct*, VXQualifierStruct*>> pending{{this, &record}};
+    while (!pending.empty()) {
+        const auto [from, to] = pending.back();
+        pending.pop_back();
+        to->operation = from->m_nOperation;
+        VXQualifierStruct** first = nullptr;
+        VXQualifierStruct** second = nullptr;
+        switch (from->m_nOperation) {
+            case VX_COND_AND:
+            case VX_COND_OR:
+                first = &to->u.andor.left;
+                second = &to->u.andor.right;
+                break;
+            case VX_COND_NOT:
+                first = &to->u.notQual;
+                break;
+            case VX_COND_OPERATION:
+                to->u.relOp = NewRecord<VXRelOpStruct>();
+                if (to->u.relOp == nullptr || !from->m_pRelation->CopyTo(*to->u.relOp))
+                    return false;
+                continue;
+            default:
+                continue;
+        }
+        const CVXQualifierStruct* children[] = {
+            second != nullptr ? from->m_pRight.get() : nullptr,
+            second != nullptr ? from->m_pLeft.get() : from->m_pNot.get()};
+        VXQualifierStruct** slots[] = {second, first};
+        for (int i = 0; i < 2; ++i) {
+            if (slots[i] == nullptr) continue;
+            *slots[i] = NewRecord<VXQualifierStruct>();
+            if (*slots[i] == nullptr || children[i] == nullptr) return false;
+            pending.emplace_back(children[i], *slots[i]);
+        }
     }
+    return true;
 }
 
 void CVXQualifierStruct::FreeRecord(VXQualifierStruct& record) {
-    switch (record.operation) {
-        case VX_COND_AND:
-        case VX_COND_OR:
-            for (VXQualifierStruct* child : {record.u.andor.left, record.u.andor.right}) {
-                if (child != nullptr) FreeRecord(*child);
-                std::free(child);
-            }
-            break;
-        case VX_COND_NOT:
-            if (record.u.notQual != nullptr) FreeRecord(*record.u.notQual);
-            std::free(record.u.notQual);
-            break;
-        case VX_COND_OPERATION:
-            if (record.u.relOp != nullptr) {
-                CVXQualifierOperand::FreeRecord(record.u.relOp->operand1);
-                CVXQualifierOperand::FreeRecord(record.u.relOp->operand2);
-            }
-            std::free(record.u.relOp);
-            break;
-        default:
-            break;
+    std::vector<VXQualifierStruct*> pending;
+    auto release = [&pending](VXQualifierStruct& node) {
+        switch (node.operation) {
+            case VX_COND_AND:
+            case VX_COND_OR:
+                for (VXQualifierStruct* child : {node.u.andor.left, node.u.andor.right}) {
+                    if (child != nullptr) pending.push_back(child);
+                }
+                break;
+            case VX_COND_NOT:
+                if (node.u.notQual != nullptr) pending.push_back(node.u.notQual);
+                break;
+            case VX_COND_OPERATION:
+                if (node.u.relOp != nullptr) {
+                    CVXQualifierOperand::FreeRecord(node.u.relOp->operand1);
+                    CVXQualifierOperand::FreeRecord(node.u.relOp->operand2);
+                }
+                std::free(node.u.relOp);
+                break;
+            default:
+                break;
+        }
+        std::memset(&node, 0, sizeof node);
+    };
+    release(record);
+    while (!pending.empty()) {
+        VXQualifierStruct* node = pending.back();
+        pending.pop_back();
+        release(*node);
+        std::free(node);
     }
-    std::memset(&record, 0, sizeof record);
 }
 
 void CVXQualifierStruct::ToText(CGNString& out) const {
     out.Empty();
-    CGNString left, right;
-    switch (m_nOperation) {
-        case VX_COND_AND:
-        case VX_COND_OR:
-            m_pLeft->ToText(left);
-            m_pRight->ToText(right);
-            out.Format("%s%s%s ", left.c_str(), m_nOperation == VX_COND_AND ? " AND " : " OR ",
-                       right.c_str());
-            break;
-        case VX_COND_NOT:
-            m_pNot->ToText(left);
-            out.Format(" NOT %s ", left.c_str());
-            break;
-        case VX_COND_OPERATION:
-            m_pRelation->ToText(out);
-            break;
-        default:
-            break;
+    CGNString relation;
+    std::vector<TextStep> pending{{this, nullptr}};
+    while (!pending.empty()) {
+        const TextStep step = pending.back();
+        pending.pop_back();
+        if (step.node == nullptr) {
+            out += step.text;
+            continue;
+        }
+        switch (step.node->m_nOperation) {
+            case VX_COND_AND:
+            case VX_COND_OR:  // "a AND b "
+                pending.push_back({nullptr, " "});
+                pending.push_back({step.node->m_pRight.get(), nullptr});
+                pending.push_back(
+                    {nullptr, step.node->m_nOperation == VX_COND_AND ? " AND " : " OR "});
+                pending.push_back({step.node->m_pLeft.get(), nullptr});
+                break;
+            case VX_COND_NOT:  // " NOT a "
+                out += " NOT ";
+                pending.push_back({nullptr, " "});
+                pending.push_back({step.node->m_pNot.get(), nullptr});
+                break;
+            case VX_COND_OPERATION:
+                step.node->m_pRelation->ToText(relation);
+                out += relation;
+                break;
+            default:
+                break;
+        }
     }
 }
 
 bool CVXQualifierStruct::Encode(CGNString& out) const {
-    out.Format("%u", static_cast<unsigned>(m_nOperation));
-    CGNString left, right;
-    switch (m_nOperation) {
-        case VX_COND_AND:
-        case VX_COND_OR:
-            if (!m_pLeft->Encode(left) || !m_pRight->Encode(right)) return false;
-            out += "\\" + left + "\\" + right;
-            return true;
-        case VX_COND_NOT:
-            if (!m_pNot->Encode(left)) return false;
-            out += "\\" + left;
-            return true;
-        case VX_COND_OPERATION:
-            if (!m_pRelation->Encode(left)) return false;
-            out += "\\" + left;
-            return true;
-        default:
-            return true;
+    out.Empty();
+    CGNString relation;
+    std::vector<TextStep> pending{{this, nullptr}};
+    while (!pending.empty()) {
+        const TextStep step = pending.back();
+        pending.pop_back();
+        if (step.node == nullptr) {
+            out += step.text;
+            continue;
+        }
+        vx::number32::AppendUnsigned(out, step.node->m_nOperation);
+        switch (step.node->m_nOperation) {
+            case VX_COND_AND:
+            case VX_COND_OR:
+                out += '\\';
+                pending.push_back({step.node->m_pRight.get(), nullptr});
+                pending.push_back({nullptr, "\\"});
+                pending.push_back({step.node->m_pLeft.get(), nullptr});
+                break;
+            case VX_COND_NOT:
+                out += '\\';
+                pending.push_back({step.node->m_pNot.get(), nullptr});
+                break;
+            case VX_COND_OPERATION:
+                if (!step.node->m_pRelation->Encode(relation)) return false;
+                out += '\\';
+                out += relation;
+                break;
+            default:
+                break;
+        }
     }
+    return true;
 }
 
 bool CVXQualifierStruct::Decode(const char*& cursor) {
     Reset();
+    std::vector<CVXQualifierStruct*> pending{this};
+    while (!pending.empty()) {
+        CVXQualifierStruct* node = pending.back();
+        pending.pop_back();
+        if (!node->DecodeNode(cursor, pending)) return false;
+    }
+    return true;
+}
+
+bool CVXQualifierStruct::DecodeNode(const char*& cursor,
+                                    std::vector<CVXQualifierStruct*>& children) {
     if (cursor == nullptr) return false;
     if (std::strncmp(cursor, "(null)", 6) == 0) {
         cursor += 6;
@@ -211,14 +334,17 @@ bool CVXQualifierStruct::Decode(const char*& cursor) {
     switch (operation) {
         case VX_COND_AND:
         case VX_COND_OR:
-            m_nOperation = static_cast<std::uint32_t>(operation);
+            m_nOperation = operation;
             m_pLeft = std::make_unique<CVXQualifierStruct>();
             m_pRight = std::make_unique<CVXQualifierStruct>();
-            return m_pLeft->Decode(cursor) && m_pRight->Decode(cursor);
+            children.push_back(m_pRight.get());
+            children.push_back(m_pLeft.get());
+            return true;
         case VX_COND_NOT:
             m_nOperation = VX_COND_NOT;
             m_pNot = std::make_unique<CVXQualifierStruct>();
-            return m_pNot->Decode(cursor);
+            children.push_back(m_pNot.get());
+            return true;
         case VX_COND_OPERATION:
             m_nOperation = VX_COND_OPERATION;
             m_pRelation = std::make_unique<CVXRelOpStruct>();
@@ -229,22 +355,46 @@ bool CVXQualifierStruct::Decode(const char*& cursor) {
 }
 
 bool CVXQualifierStruct::Evaluate(const CVXFieldValueLookup* fields, bool& result) const {
-    bool left = false, right = false;
-    switch (m_nOperation) {
-        case VX_COND_AND:
-        case VX_COND_OR:
-            if (!m_pLeft->Evaluate(fields, left) || !m_pRight->Evaluate(fields, right))
-                return false;
-            result = m_nOperation == VX_COND_AND ? left && right : left || right;
-            return true;
-        case VX_COND_NOT:
-            if (!m_pNot->Evaluate(fields, left)) return false;
-            result = !left;
-            return true;
-        case VX_COND_OPERATION:
-            return m_pRelation->Compare(fields, result);
-        default:
-            result = true;
-            return true;
+    // Post-order: a node is met once to queue its children and once more, `ready`, to combine
+    // their results, which wait on `results` in the order they were evaluated.
+    std::vector<std::pair<const CVXQualifierStruct*, bool>> pending{{this, false}};
+    std::vector<bool> results;
+    while (!pending.empty()) {
+        const auto [node, ready] = pending.back();
+        pending.pop_back();
+        bool value = true;
+        switch (node->m_nOperation) {
+            case VX_COND_AND:
+            case VX_COND_OR:
+                if (!ready) {
+                    pending.emplace_back(node, true);
+                    pending.emplace_back(node->m_pRight.get(), false);
+                    pending.emplace_back(node->m_pLeft.get(), false);
+                    continue;
+                }
+                value = results.back();
+                results.pop_back();
+                value = node->m_nOperation == VX_COND_AND ? results.back() && value
+                                                          : results.back() || value;
+                results.pop_back();
+                break;
+            case VX_COND_NOT:
+                if (!ready) {
+                    pending.emplace_back(node, true);
+                    pending.emplace_back(node->m_pNot.get(), false);
+                    continue;
+                }
+                value = !results.back();
+                results.pop_back();
+                break;
+            case VX_COND_OPERATION:
+                if (!node->m_pRelation->Compare(fields, value)) return false;
+                break;
+            default:
+                break;
+        }
+        results.push_back(value);
     }
+    result = results.back();
+    return true;
 }

@@ -86,6 +86,9 @@ TEST_F(QualifierTest, DisplayAndEncodedTexts) {
         {Rel(VX_REL_OP_LESS_EQUAL, Arith(VX_ARITH_OP_NEGATE, Operand(), Operand::Field(4)),
              Arith(VX_ARITH_OP_MODULO, Int(7), Int(2))),
          "( <= ) ", "4\\5\\3\\6\\1\\4\\3\\5\\2\\2\\7\\2\\2\\2"},
+        // Field ids from 2^31 up show as the 32-bit client shows them.
+        {Rel(VX_REL_OP_EQUAL, Operand::Field(3000000000u), Int(1)), "(-1294967296 = 1) ",
+         "4\\1\\1\\3000000000\\2\\2\\1"},
     };
     const auto quiet = CGNAssert::SetHandler([](const char*, int, const char*) {});
     for (const auto& c : cases) {
@@ -122,6 +125,50 @@ TEST_F(QualifierTest, DecodesOddCodesAndRefusesBrokenText) {
             EXPECT_EQ(Encoded(decoded), c.encoded) << c.text;
         }
     }
+}
+
+// Hostile or corrupt text may nest far deeper than any stack: every walk over the tree works
+// at any depth, and its texts grow linearly with it.
+TEST_F(QualifierTest, DeepTreesWorkAtAnyDepth) {
+    constexpr int kDepth = 200000;
+    const std::string leaf = "4\\1\\1\\7\\2\\2\\5";  // (7 = 5)
+    std::string encoded;
+    for (int i = 0; i < kDepth; ++i)
+        encoded += i % 2 == 0 ? "3\\" : "1\\" + leaf + "\\";  // NOT, and AND with a leaf
+    encoded += leaf;
+    Q deep;
+    const char* cursor = encoded.c_str();
+    ASSERT_TRUE(deep.Decode(cursor));
+    EXPECT_EQ(Encoded(deep), encoded);
+    std::string text;
+    for (int i = 0; i < kDepth / 2; ++i)
+        text += " NOT (7 = 5)  AND ";
+    text += "(7 = 5) ";
+    for (int i = 0; i < kDepth / 2; ++i)
+        text += "  ";
+    EXPECT_EQ(Text(deep), text);
+
+    Fields fields;
+    fields.values[7].SetInteger(5);
+    bool result = false;
+    ASSERT_TRUE(deep.Evaluate(&fields, result));
+    EXPECT_TRUE(result);  // an even number of NOTs over true leaves
+
+    Q copy = deep;
+    copy = *copy.GetNot();  // from inside its own tree
+    EXPECT_EQ(Encoded(copy), encoded.substr(2));
+    VXQualifierStruct record{};
+    ASSERT_TRUE(deep.CopyTo(record));
+    const Q back(record);
+    Q::FreeRecord(record);
+    EXPECT_EQ(Encoded(back), encoded);
+
+    // Arithmetic nests through operands; beyond any written formula it is refused cleanly.
+    std::string formula = "4\\1\\";
+    for (int i = 0; i < kDepth; ++i)
+        formula += "3\\1\\";  // an arithmetic operand: add, then its left operand
+    cursor = formula.c_str();
+    EXPECT_FALSE(deep.Decode(cursor));
 }
 
 TEST_F(QualifierTest, RecordsAreDeepCopies) {
