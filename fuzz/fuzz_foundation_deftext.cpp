@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "foundation/DefinitionText.h"
 #include "vxutil/foundation/CVXCoreList.h"
-#include "vxutil/foundation/DefinitionText.h"
 
 #include "FuzzCheck.h"
 

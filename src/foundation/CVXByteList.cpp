@@ -5,8 +5,8 @@
 #include <new>
 #include <string>
 
+#include "foundation/DefinitionText.h"
 #include "foundation/HexText.h"
-#include "vxutil/foundation/DefinitionText.h"
 #include "vxutil/gnrt/CGNAssert.h"
 
 namespace {

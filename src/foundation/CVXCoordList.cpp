@@ -5,7 +5,7 @@
 #include <new>
 #include <vector>
 
-#include "vxutil/foundation/DefinitionText.h"
+#include "foundation/DefinitionText.h"
 #include "vxutil/gnrt/CGNAssert.h"
 
 namespace {

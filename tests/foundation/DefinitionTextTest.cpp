@@ -1,4 +1,4 @@
-#include "vxutil/foundation/DefinitionText.h"
+#include "foundation/DefinitionText.h"
 
 #include <climits>
 #include <string>

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <new>
 
+#include "foundation/DefinitionText.h"
 #include "foundation/GNListElements.h"
-#include "vxutil/foundation/DefinitionText.h"
 
 namespace {
 

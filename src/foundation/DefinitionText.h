@@ -16,29 +16,28 @@
 #include <cstdint>
 #include <new>
 
-#include "vxutil/export.h"
 #include "vxutil/foundation/CVXCoreList.h"
 #include "vxutil/gnrt/CGNString.h"
 
 namespace vx::definition {
 
 // "%lu\"
-VXUTIL_API void WriteUnsigned(CGNString& out, std::uint32_t value);
+void WriteUnsigned(CGNString& out, std::uint32_t value);
 // "%ld\"
-VXUTIL_API void WriteSigned(CGNString& out, std::int32_t value);
+void WriteSigned(CGNString& out, std::int32_t value);
 // Length, backslash, bytes, backslash. Windows line ends (CR LF) are written as line feeds
 // first and the length counts the converted text. A null text is written as the empty text.
-VXUTIL_API void WriteString(CGNString& out, const char* text);
+void WriteString(CGNString& out, const char* text);
 
 // A number outside the 32-bit range saturates (the unsigned reader, like the C conversion it
 // follows, takes "-1" as 4294967295).
-VXUTIL_API bool ReadSigned(const char*& cursor, std::int32_t& value);
-VXUTIL_API bool ReadUnsigned(const char*& cursor, std::uint32_t& value);
+bool ReadSigned(const char*& cursor, std::int32_t& value);
+bool ReadUnsigned(const char*& cursor, std::uint32_t& value);
 // Reads a counted string. False when the text holds fewer bytes than the count, or when anything
 // but a backslash or the end of the text follows them.
-VXUTIL_API bool ReadString(const char*& cursor, CGNString& value);
+bool ReadString(const char*& cursor, CGNString& value);
 // Steps over one line feed at the cursor, which a list's writer may have put after its items.
-VXUTIL_API void SkipLineFeed(const char*& cursor);
+void SkipLineFeed(const char*& cursor);
 
 // Writes the count of `list` and then each item's fields with `writeFields(const Item&, out)`.
 // Every item of `list` must be an `Item`.
