@@ -1,7 +1,7 @@
-// CAppEnv over many users: GetListOfUsers with 10, 100 and 1,000 users, and FindHomeDirectory of
-// the last of them. Both read one store value per user value, from the parsed registry file while
-// it is unchanged (POSIX) or from the registry (Windows), so the cost grows linearly with the
-// number of users.
+// CAppEnv over many users: GetListOfUsers with 10, 100 and 1,000 users, FindHomeDirectory of the
+// last of them, and AddUser and DeleteUser among them. Reads take one consistent view of the
+// users per operation (on POSIX the parsed registry file while it is unchanged); a change of
+// several values is written as one unit.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -97,5 +97,36 @@ void FindHomeDirectoryOfTheLastUser(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(FindHomeDirectoryOfTheLastUser)->Arg(10)->Arg(100)->Arg(1000)->Complexity(benchmark::oN);
+
+// A user added after all the others (and removed again outside the timing).
+void AddUser(benchmark::State& state) {
+    StoreWith(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(CAppEnv::AddUser("new user", "/home/vx/new"));
+        state.PauseTiming();
+        CAppEnv::DeleteUser("new user");
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(AddUser)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+// The first user deleted, so that every later slot moves down (and added again at the end,
+// outside the timing).
+void DeleteUser(benchmark::State& state) {
+    StoreWith(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        CGNStringList names, folders;
+        state.PauseTiming();
+        CAppEnv::GetListOfUsers(names, folders);
+        const CGNString name = names.GetAt(0);
+        const CGNString folder = folders.GetAt(0);
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(CAppEnv::DeleteUser(name));
+        state.PauseTiming();
+        CAppEnv::AddUser(name, folder);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(DeleteUser)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "appenv/AppEnvTrace.h"
 #include "appenv/SettingsFile.h"
 #include "appenv/UserRegistry.h"
+#include "platform/profile/ProfileEdit.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/gnrt/MultiByte.h"
 #include "vxutil/login/OSUserName.h"
@@ -44,7 +45,9 @@ CAppEnv::flag CAppEnv::GetLastUserAndPassword(char* user, char* password) {
     if (user[0] == '\0') {
         // A file without the name: the user is the one in the slot.
         CGNString name;
-        if (!ReadSlotName(slot, name) || name.IsEmpty()) return 0;
+        bool named = false;
+        ReadUsers([&](const UserSlots& users) { named = users.Name(slot, name); });
+        if (!named || name.IsEmpty()) return 0;
         vx::mb::BoundedCopy(user, vx::kNameBufferSize, name.c_str());
     }
     password[0] = '\0';
@@ -72,16 +75,38 @@ CAppEnv::flag CAppEnv::GetLastOSUser(char* osUser) {
 CAppEnv::flag CAppEnv::SetLastUserAndPassword(const char* user, const char* password) {
     AppEnvTrace trace("CAppEnv::SetLastUserAndPassword");
     if (user == nullptr || password == nullptr) return 0;
-    CGNString userFolder;
-    CGNString userFile;
-    if (!FindHomeDirectory(user, userFolder) || !SettingsFileOf(userFolder, userFile)) return 0;
     const CGNString osUser = ClientGetOSUserName();
-    CGNString defaultFolder;
-    CGNString defaultFile;
-    if (!GetDefaultHomePath(defaultFolder) || !SettingsFileOf(defaultFolder, defaultFile)) return 0;
-
-    if (!WriteUserValue(userFile, "User", user)) return 0;
-    WriteUserValue(defaultFile, "OSUser", osUser.c_str());
-    WriteUserValue(userFile, "Password", password);
-    return 1;
+    CGNString migrated;  // an older client's default folder is carried over first
+    GetDefaultHomePath(migrated);
+    flag stored = 0;
+    // The users stay as they are until the login is written: no other process moves this
+    // user's slot, and with it the folder, in between.
+    EditUsers([&](UserSlotsEditor& users) {
+        CGNString userFolder;
+        CGNString userFile;
+        CGNString defaultFolder;
+        CGNString defaultFile;
+        if (!users.HomeFolderOf(user, userFolder) || !SettingsFileOf(userFolder, userFile) ||
+            !users.String(kDefaultFolderValue, defaultFolder) ||
+            !SettingsFileOf(defaultFolder, defaultFile))
+            return;
+        // Name and password are one unit: a refused password leaves the old login whole. The
+        // logon name of a separate default folder's file is written afterwards, its result
+        // ignored.
+        if (userFile == defaultFile) {
+            stored =
+                vx::ProfileWriteValues(
+                    "User", {{"User", user}, {"OSUser", osUser.c_str()}, {"Password", password}},
+                    userFile.c_str())
+                    ? 1
+                    : 0;
+            return;
+        }
+        if (!vx::ProfileWriteValues("User", {{"User", user}, {"Password", password}},
+                                    userFile.c_str()))
+            return;
+        stored = 1;
+        WriteUserValue(defaultFile, "OSUser", osUser.c_str());
+    });
+    return stored;
 }

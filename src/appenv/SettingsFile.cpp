@@ -10,11 +10,9 @@
 namespace vx::appenv {
 
 CGNString SettingsFilePath(const CGNString& folder) {
-    CGNString path = folder;
-    const bool endsWithSeparator =
-        !folder.IsEmpty() &&
-        folder.ReverseFind(kPathSeparator) == static_cast<int>(folder.GetLength()) - 1;
-    if (!endsWithSeparator) path += kPathSeparator;
+    if (!folder.IsEmpty()) return MakeFilePath(folder, kSettingsFileName);
+    CGNString path;
+    path += kPathSeparator;
     path += kSettingsFileName;
     return path;
 }

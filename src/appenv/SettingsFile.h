@@ -7,9 +7,9 @@
 
 namespace vx::appenv {
 
-// The folder, the native separator unless the folder already ends with one, then "vx.ini".
-// Unlike MakeFilePath, an empty folder gives a separator before the name ("/vx.ini"), as clients
-// have always formed this path; callers that may hold an empty folder must check it first.
+// MakeFilePath(folder, "vx.ini"), except that an empty folder gives a separator before the name
+// ("/vx.ini"), as clients have always formed this path; callers that may hold an empty folder
+// must check it first.
 CGNString SettingsFilePath(const CGNString& folder);
 
 // Reads "User"/`key` of `file` into `out` (kNameBufferSize bytes): "" when absent, a longer

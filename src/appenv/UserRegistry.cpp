@@ -1,68 +1,131 @@
 #include "appenv/UserRegistry.h"
 
 #include <cstdio>
-
-#include "vxutil/gnrt/OSConfigReg.h"
+#include <string>
 
 namespace vx::appenv {
 namespace {
 
-constexpr const char* kUsersKey = "Korvel\\VXUser\\Users";
-constexpr const char* kRoot = "SOFTWARE";
+// "SOFTWARE" + "Korvel\VXUser\Users", as a normalized key path below HKEY_CURRENT_USER.
+constexpr const char* kUsersKey = "SOFTWARE\\Korvel\\VXUser\\Users";
+
+std::string EntryName(const char* prefix, unsigned slot) {
+    char name[32];
+    std::snprintf(name, sizeof name, "%s%u", prefix, slot);
+    return name;
+}
 
 }  // namespace
 
 CGNString SlotEntryName(const char* prefix, unsigned slot) {
-    CGNString name;
-    name.Format("%s%u", prefix, slot);
-    return name;
+    return CGNString(EntryName(prefix, slot));
 }
 
-bool ReadRegistryString(const char* valueName, CGNString& out) {
-    return OSGetSystemConfigReg(out, "", kUsersKey, valueName, kRoot) > 0;
+bool UserSlots::String(const char* valueName, CGNString& out) const {
+    registry::RegistryValue value;
+    const auto text = m_key.Read(valueName, value) ? registry::TextOf(value) : std::nullopt;
+    out = text ? CGNString(*text) : CGNString();
+    return text.has_value();
 }
 
-bool ReadRegistryNumber(const char* valueName, long def, long& out) {
-    return OSGetSystemConfigReg(out, def, kUsersKey, valueName, kRoot) > 0;
+bool UserSlots::Number(const char* valueName, long def, long& out) const {
+    registry::RegistryValue value;
+    const auto number = m_key.Read(valueName, value) ? registry::NumberOf(value) : std::nullopt;
+    out = number ? *number : def;
+    return number.has_value();
 }
 
-bool WriteRegistryString(const char* valueName, const CGNString& value) {
-    return OSSetSystemConfigReg(value, kUsersKey, valueName, kRoot) > 0;
+bool UserSlots::Name(unsigned slot, CGNString& name) const {
+    return String(EntryName("USER", slot).c_str(), name);
 }
 
-bool WriteRegistryNumber(const char* valueName, int value) {
-    return OSSetSystemConfigReg(value, kUsersKey, valueName, kRoot) > 0;
+bool UserSlots::Folder(unsigned slot, CGNString& folder) const {
+    return String(EntryName("VXPATH", slot).c_str(), folder);
 }
 
-bool ReadSlotName(unsigned slot, CGNString& name) {
-    return ReadRegistryString(SlotEntryName("USER", slot).c_str(), name);
-}
-
-bool ReadSlotFolder(unsigned slot, CGNString& folder) {
-    return ReadRegistryString(SlotEntryName("VXPATH", slot).c_str(), folder);
-}
-
-bool WriteSlotName(unsigned slot, const CGNString& name) {
-    return WriteRegistryString(SlotEntryName("USER", slot).c_str(), name);
-}
-
-bool WriteSlotFolder(unsigned slot, const CGNString& folder) {
-    return WriteRegistryString(SlotEntryName("VXPATH", slot).c_str(), folder);
-}
-
-void DeleteSlot(unsigned slot) {
-    OSDelSystemConfigReg(kUsersKey, SlotEntryName("USER", slot), kRoot);
-    OSDelSystemConfigReg(kUsersKey, SlotEntryName("VXPATH", slot), kRoot);
-}
-
-SlotSearch FindSlot(const CGNString& name, unsigned first) {
+SlotSearch UserSlots::Find(const CGNString& name, unsigned first) const {
     CGNString slotName;
     // The counter is unsigned; should it ever wrap, the search ends at slot 0.
     for (unsigned slot = first; slot != 0; ++slot) {
-        if (!ReadSlotName(slot, slotName)) return {0, slot};
+        if (!Name(slot, slotName)) return {0, slot};
         if (slotName == name) return {slot, 0};
     }
     return {0, 0};
+}
+
+bool UserSlots::HomeFolderOf(const CGNString& name, CGNString& folder) const {
+    CGNString found;
+    // A slot of this name without a folder lets a later slot of the same name answer.
+    for (unsigned slot = Find(name).match; slot != 0; slot = Find(name, slot + 1).match) {
+        if (Folder(slot, found)) {
+            folder = found;
+            return true;
+        }
+    }
+    if (!String(kDefaultFolderValue, found)) return false;
+    folder = found;
+    return true;
+}
+
+bool UserSlotsEditor::SetString(const char* valueName, const CGNString& value) {
+    return m_key.Write(valueName, registry::StringValue(value.str()));
+}
+
+bool UserSlotsEditor::SetNumber(const char* valueName, int value) {
+    return m_key.Write(valueName, registry::DwordValue(static_cast<std::uint32_t>(value)));
+}
+
+bool UserSlotsEditor::SetName(unsigned slot, const CGNString& name) {
+    return SetString(EntryName("USER", slot).c_str(), name);
+}
+
+bool UserSlotsEditor::SetFolder(unsigned slot, const CGNString& folder) {
+    return SetString(EntryName("VXPATH", slot).c_str(), folder);
+}
+
+void UserSlotsEditor::RemoveName(unsigned slot) {
+    m_key.Remove(EntryName("USER", slot));
+}
+
+void UserSlotsEditor::RemoveFolder(unsigned slot) {
+    m_key.Remove(EntryName("VXPATH", slot));
+}
+
+void ReadUsers(const std::function<void(const UserSlots&)>& read) {
+    registry::ReadKey(kUsersKey, [&](const registry::KeyReader& key) { read(UserSlots(key)); });
+}
+
+bool EditUsers(const std::function<void(UserSlotsEditor&)>& edit) {
+    return registry::EditKey(kUsersKey, [&](registry::KeyEditor& key) {
+        UserSlotsEditor users(key);
+        edit(users);
+    });
+}
+
+bool ReadRegistryString(const char* valueName, CGNString& out) {
+    bool found = false;
+    ReadUsers([&](const UserSlots& users) { found = users.String(valueName, out); });
+    return found;
+}
+
+bool ReadRegistryNumber(const char* valueName, long def, long& out) {
+    bool found = false;
+    ReadUsers([&](const UserSlots& users) { found = users.Number(valueName, def, out); });
+    return found;
+}
+
+bool WriteRegistryString(const char* valueName, const CGNString& value) {
+    bool written = false;
+    return EditUsers(
+               [&](UserSlotsEditor& users) { written = users.SetString(valueName, value); }) &&
+           written;
+}
+
+bool WriteRegistryNumber(const char* valueName, int value) {
+    bool written = false;
+    return EditUsers(
+               [&](UserSlotsEditor& users) { written = users.SetNumber(valueName, value); }) &&
+           written;
 }
 
 }  // namespace vx::appenv

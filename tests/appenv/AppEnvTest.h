@@ -2,6 +2,7 @@
 // application object with its own profile, and access to the stores behind CAppEnv.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "support/TempHome.h"
@@ -43,8 +44,11 @@ protected:
         OSDelSystemConfigReg(kUsersKey, name.c_str(), kRoot);
     }
 
-    // A folder path inside the home (not created).
-    std::string Folder(const std::string& name) const { return home.file(name); }
+    // A folder inside the home, created: the stores write into existing folders only.
+    std::string Folder(const std::string& name) const {
+        std::filesystem::create_directories(home.file(name));
+        return home.file(name);
+    }
     // "User"/key of the folder's "vx.ini"; "<absent>" when not there.
     static std::string Remembered(const std::string& folder, const char* key) {
         return ProfileGetString("User", key, "<absent>", SettingsFile(folder).c_str());

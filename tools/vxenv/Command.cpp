@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "vxutil/platform/StoreError.h"
+
 namespace vxenv {
 namespace {
 
@@ -43,8 +45,11 @@ void Context::Print(std::string_view line) const {
 }
 
 int Context::Fail(std::string_view message) const {
-    std::fprintf(stderr, "vxenv: %s%s%.*s\n", m_path.c_str(), m_path.empty() ? "" : ": ",
-                 static_cast<int>(message.size()), message.data());
+    // A refused write names its file and cause; that goes on the same line.
+    const std::string cause = vx::LastStoreError();
+    std::fprintf(stderr, "vxenv: %s%s%.*s%s%s\n", m_path.c_str(), m_path.empty() ? "" : ": ",
+                 static_cast<int>(message.size()), message.data(), cause.empty() ? "" : ": ",
+                 cause.c_str());
     return kFailed;
 }
 

@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Json.h"
 #include "vxutil/appenv/CAppEnv.h"
+#include "vxutil/platform/StoreError.h"
 
 namespace vxenv {
 namespace {
@@ -42,7 +43,9 @@ int Remember(Context& context, Args& args) {
         return context.UsageError("user and password have at most 30 characters");
     if (!IsKnownUser(user)) return context.Fail("no user '" + user + "'");
     if (!CAppEnv::SetLastUserAndPassword(user.c_str(), args[1].c_str()))
-        return context.Fail("could not store the login (is a default home folder set?)");
+        return context.Fail(vx::LastStoreError().empty()
+                                ? "could not store the login (is a default home folder set?)"
+                                : "could not store the login");
     if (!CAppEnv::SetLastUserLoggedIn(user.c_str()))
         return context.Fail("could not store the last user");
     return kOk;

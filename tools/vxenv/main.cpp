@@ -7,6 +7,7 @@
 #include "Command.h"
 #include "Commands.h"
 #include "vxutil/platform/RApplication.h"
+#include "vxutil/platform/StoreError.h"
 
 namespace vxenv {
 namespace {
@@ -94,7 +95,11 @@ int main(int argc, char** argv) {
     RApplication::SetCurrent(&app);
     Context context(options);
     Args args(std::move(words));
+    vx::ClearStoreError();
     int code = Dispatch(TopLevelCommands(), context, args, "");
+    // Setters without a result (preferences) report a refused write only here.
+    if (code == kOk && !vx::LastStoreError().empty())
+        code = context.Fail("a setting was not stored");
     RApplication::SetCurrent(nullptr);
     return code;
 }

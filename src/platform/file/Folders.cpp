@@ -42,14 +42,6 @@ bool IsPathSeparator(char c) {
 #endif
 }
 
-char NativePathSeparator() {
-#ifdef _WIN32
-    return '\\';
-#else
-    return '/';
-#endif
-}
-
 std::string ParentFolder(const std::string& path) {
     const std::size_t root = RootLength(path);
     std::size_t end = path.size();

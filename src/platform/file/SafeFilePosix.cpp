@@ -7,41 +7,28 @@
 // and otherwise starts again on the new file. Only a writer that passed this check reads,
 // edits and renames, and it keeps the lock until the rename is done, so at any moment at most
 // one writer works on the file the path names and no change is lost.
-#include "vxutil/platform/SafeFile.h"
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 
 #include "platform/file/Folders.h"
+#include "platform/file/NativeFile.h"
+#include "platform/file/SafeFile.h"
+#include "platform/file/StoreFailure.h"
+#include "vxutil/gnrt/FilePath.h"
 
 namespace vx {
 namespace {
 
-// A file descriptor closed when it goes out of scope.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (m_fd >= 0) ::close(m_fd);
-    }
-    int get() const { return m_fd; }
-    bool valid() const { return m_fd >= 0; }
-    // Closes now, reporting whether the close (which may flush) succeeded.
-    bool close() {
-        const int fd = m_fd;
-        m_fd = -1;
-        return ::close(fd) == 0;
-    }
-
-private:
-    int m_fd;
-};
+// Links followed before a path counts as a loop, as the kernel's own limit.
+constexpr int kMaxLinks = 40;
+// Rounds of "replaced while we waited for the lock" before giving up; each needs another
+// writer to finish a whole write, so reaching it means the file is being swapped wildly.
+constexpr int kMaxAttempts = 1000;
 
 FileStamp StampOf(const struct stat& info) {
     FileStamp stamp;
@@ -54,27 +41,8 @@ FileStamp StampOf(const struct stat& info) {
     return stamp;
 }
 
-bool ReadAll(int fd, std::string& content) {
-    content.clear();
-    char chunk[65536];
-    for (;;) {
-        const ssize_t got = ::read(fd, chunk, sizeof chunk);
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) return false;
-        if (got == 0) return true;
-        content.append(chunk, static_cast<std::size_t>(got));
-    }
-}
-
-bool WriteAll(int fd, const std::string& content) {
-    std::size_t done = 0;
-    while (done < content.size()) {
-        const ssize_t put = ::write(fd, content.data() + done, content.size() - done);
-        if (put < 0 && errno == EINTR) continue;
-        if (put <= 0) return false;
-        done += static_cast<std::size_t>(put);
-    }
-    return true;
+bool SystemFailure(const std::string& path) {
+    return StoreFailure(path, LastSystemErrorText());
 }
 
 bool LockExclusive(int fd) {
@@ -83,55 +51,78 @@ bool LockExclusive(int fd) {
     return true;
 }
 
-// Makes the rename itself durable: a rename lives in the folder, not in the file.
-void FlushFolder(const std::string& path) {
-    const std::string folder = ParentFolder(path);
-    Descriptor dir(
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (dir.valid()) ::fsync(dir.get());
-}
-
-// Writes `content` to a temporary file beside `path` and renames it over `path`. The
-// temporary name is fixed: only the lock holder writes it, and one left behind by a writer
-// that was killed is simply overwritten by the next.
-bool ReplaceContent(const std::string& path, const std::string& content, const struct stat& old) {
-    const std::string temporary = path + ".tmp";
-    Descriptor out(
-        ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!out.valid()) return false;
-    // The new file keeps the old one's permissions and, when the writer may give files away
-    // (an administrator editing a user's file), its owner.
-    ::fchmod(out.get(), old.st_mode & 07777);
-    [[maybe_unused]] const int ownerKept = ::fchown(out.get(), old.st_uid, old.st_gid);
-    const bool written = WriteAll(out.get(), content) && ::fsync(out.get()) == 0 && out.close();
-    if (!written || ::rename(temporary.c_str(), path.c_str()) != 0) {
-        ::unlink(temporary.c_str());
-        return false;
-    }
-    FlushFolder(path);
-    return true;
-}
-
-// Opens `path` for the update, creating it when missing; `created` tells which happened.
-int OpenOrCreate(const std::string& path, mode_t mode, bool& created) {
-    created = false;
-    for (;;) {
-        int fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-        if (fd >= 0) {
-            created = true;
-            return fd;
+// The file that `path` finally names: links are followed to their target, which may not exist
+// yet only when `path` itself is no link.
+bool FollowLinks(const std::string& path, std::string& target) {
+    target = path;
+    for (int hop = 0; hop <= kMaxLinks; ++hop) {
+        struct stat info {};
+        if (::lstat(target.c_str(), &info) != 0) {
+            if (errno != ENOENT || hop == 0) return errno == ENOENT || SystemFailure(path);
+            return StoreFailure(path,
+                                "is a dangling symbolic link (" + target + " does not exist)");
         }
-        if (errno != EEXIST) return -1;
-        fd = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
-        if (fd >= 0 || errno != ENOENT) return fd;
-        // Removed between the two calls: try again.
+        if (!S_ISLNK(info.st_mode)) return true;
+        std::string link(static_cast<std::size_t>(info.st_size) + 1, '\0');
+        const ssize_t length = ::readlink(target.c_str(), link.data(), link.size());
+        if (length < 0 || static_cast<std::size_t>(length) >= link.size())
+            return SystemFailure(path);
+        link.resize(static_cast<std::size_t>(length));
+        target =
+            link.front() == '/' ? link : MakeFilePath(ParentFolder(target).c_str(), link).str();
     }
+    return StoreFailure(path, "has too many levels of symbolic links");
+}
+
+// Opens the file, creating it when missing; `created` tells which happened. -1 with errno set
+// when neither works; EAGAIN when another process swapped it in between (try again).
+int OpenOrCreate(const std::string& target, mode_t mode, bool& created) {
+    created = false;
+    const int fd = ::open(target.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    if (fd >= 0 || errno != ENOENT) return fd;
+    created = true;
+    const int made =
+        ::open(target.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+    if (made < 0 && errno == EEXIST) errno = EAGAIN;
+    return made;
 }
 
 bool NamesSameFile(const std::string& path, const struct stat& held) {
     struct stat named {};
-    return ::stat(path.c_str(), &named) == 0 && named.st_dev == held.st_dev &&
+    return ::lstat(path.c_str(), &named) == 0 && named.st_dev == held.st_dev &&
            named.st_ino == held.st_ino;
+}
+
+// Makes the rename itself durable: a rename lives in the folder, not in the file.
+void FlushFolder(const std::string& path) {
+    const std::string folder = ParentFolder(path);
+    NativeFile dir(
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (dir.valid()) ::fsync(dir.get());
+}
+
+// Writes `content` to a new temporary file beside `target` and renames it over `target`.
+bool ReplaceContent(const std::string& path, const std::string& target, const std::string& content,
+                    const struct stat& old, FileAccess access, FileStamp* written) {
+    std::string temporary = target + ".tmp-XXXXXX";
+    NativeFile out(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (!out.valid()) return SystemFailure(path);
+    // A file that may hold a password becomes the owner's alone, whatever it allowed before;
+    // a shared one keeps its mode. Both keep their owner when the writer may give files away
+    // (an administrator editing a user's file).
+    const mode_t mode = access == FileAccess::OwnerOnly ? 0600 : old.st_mode & 07777;
+    struct stat fresh {};
+    const bool done = ::fchmod(out.get(), mode) == 0 && out.WriteAll(content) &&
+                      ::fsync(out.get()) == 0 && ::fstat(out.get(), &fresh) == 0;
+    [[maybe_unused]] const int ownerKept = ::fchown(out.get(), old.st_uid, old.st_gid);
+    if (!done || !out.Close() || ::rename(temporary.c_str(), target.c_str()) != 0) {
+        SystemFailure(path);
+        ::unlink(temporary.c_str());
+        return false;
+    }
+    FlushFolder(target);
+    if (written) *written = StampOf(fresh);
+    return true;
 }
 
 }  // namespace
@@ -146,39 +137,47 @@ bool ReadWholeFile(const std::string& path, std::string& content, FileStamp& sta
     content.clear();
     stamp = {};
     // Non-blocking, so that a pipe or device put where a file belongs cannot hang the reader.
-    Descriptor in(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    NativeFile in(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!in.valid()) return errno == ENOENT || errno == ENOTDIR;
     struct stat info {};
     if (::fstat(in.get(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
     stamp = StampOf(info);
-    return ReadAll(in.get(), content);
+    return in.ReadAll(content);
 }
 
-bool UpdateFile(const std::string& path, const std::function<bool(std::string&)>& edit,
-                FileAccess access) {
-    if (path.empty()) return false;
-    const std::string folder = ParentFolder(path);
-    if (!folder.empty() && !CreateFolderTree(folder)) return false;
+bool UpdateFile(const std::string& path,
+                const std::function<EditOutcome(std::string&, const FileStamp&)>& edit,
+                FileAccess access, FileStamp* written) {
+    if (path.empty()) return StoreFailure(path, "no file name");
+    std::string target;
+    if (!FollowLinks(path, target)) return false;
     const mode_t mode = access == FileAccess::OwnerOnly ? 0600 : 0644;
 
-    for (;;) {
+    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
         bool created = false;
-        Descriptor file(OpenOrCreate(path, mode, created));
-        if (!file.valid() || !LockExclusive(file.get())) return false;
+        NativeFile file(OpenOrCreate(target, mode, created));
+        if (!file.valid() && errno == EAGAIN) continue;
+        if (!file.valid() && created && errno == ENOENT)
+            return StoreFailure(path, "its folder does not exist");
+        if (!file.valid()) return SystemFailure(path);
+        if (!LockExclusive(file.get())) return SystemFailure(path);
         struct stat held {};
-        if (::fstat(file.get(), &held) != 0 || !S_ISREG(held.st_mode)) return false;
-        if (!NamesSameFile(path, held)) continue;  // replaced while we waited
+        if (::fstat(file.get(), &held) != 0) return SystemFailure(path);
+        if (!S_ISREG(held.st_mode)) return StoreFailure(path, "is not a regular file");
+        if (!NamesSameFile(target, held)) continue;  // replaced while we waited
 
         std::string content;
-        if (!ReadAll(file.get(), content)) return false;
-        if (!edit(content)) {
+        if (!file.ReadAll(content)) return SystemFailure(path);
+        const EditOutcome outcome = edit(content, StampOf(held));
+        if (outcome != EditOutcome::Write) {
             // Leave no empty file behind for an edit that changed nothing. Writers that opened
             // it meanwhile notice that the path no longer names it and start again.
-            if (created && held.st_size == 0) ::unlink(path.c_str());
-            return true;
+            if (created && held.st_size == 0) ::unlink(target.c_str());
+            return outcome == EditOutcome::Keep;
         }
-        return ReplaceContent(path, content, held);
+        return ReplaceContent(path, target, content, held, access, written);
     }
+    return StoreFailure(path, "was replaced too often while waiting for its lock");
 }
 
 }  // namespace vx

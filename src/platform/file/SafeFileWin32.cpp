@@ -7,36 +7,20 @@
 // MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH, which leaves either the old or the new
 // file. Readers open the file only for the moment of reading, with every sharing mode, so a
 // rename that meets one of them is simply tried again.
-#include "vxutil/platform/SafeFile.h"
-
 #include <windows.h>
 
 #include <sddl.h>
 
-#include <algorithm>
+#include <atomic>
 
-#include "platform/file/Folders.h"
+#include "platform/file/NativeFile.h"
+#include "platform/file/SafeFile.h"
+#include "platform/file/StoreFailure.h"
 
 namespace vx {
 namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-// A file handle closed when it goes out of scope.
-class Handle {
-public:
-    explicit Handle(HANDLE handle) : m_handle(handle) {}
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    ~Handle() {
-        if (valid()) ::CloseHandle(m_handle);
-    }
-    HANDLE get() const { return m_handle; }
-    bool valid() const { return m_handle != INVALID_HANDLE_VALUE; }
-
-private:
-    HANDLE m_handle;
-};
 
 FileStamp StampOf(const BY_HANDLE_FILE_INFORMATION& info) {
     FileStamp stamp;
@@ -55,28 +39,10 @@ bool IsMissing(DWORD error) {
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
-bool ReadAll(HANDLE file, std::string& content) {
-    content.clear();
-    char chunk[65536];
-    for (;;) {
-        DWORD got = 0;
-        if (!::ReadFile(file, chunk, sizeof chunk, &got, nullptr)) return false;
-        if (got == 0) return true;
-        content.append(chunk, got);
-    }
-}
-
-bool WriteAll(HANDLE file, const std::string& content) {
-    std::size_t done = 0;
-    while (done < content.size()) {
-        const DWORD want =
-            static_cast<DWORD>(std::min<std::size_t>(content.size() - done, 1u << 30));
-        DWORD put = 0;
-        if (!::WriteFile(file, content.data() + done, want, &put, nullptr) || put == 0)
-            return false;
-        done += put;
-    }
-    return true;
+bool SystemFailure(const std::string& path) {
+    const DWORD error = ::GetLastError();
+    return StoreFailure(
+        path, error == ERROR_PATH_NOT_FOUND ? "its folder does not exist" : SystemErrorText(error));
 }
 
 // Security for a new file that only its owner may open; null (the folder's inherited
@@ -102,15 +68,22 @@ private:
     SECURITY_ATTRIBUTES m_attributes{};
 };
 
-bool WriteTemporary(const std::string& temporary, const std::string& content, bool ownerOnly,
-                    bool exists) {
+// A new temporary file beside `path` whose name no other writer uses: the process, a counter
+// and the clock, tried again should a stale one from a killed writer hold the name.
+NativeFile CreateTemporary(const std::string& path, bool ownerOnly, std::string& temporary) {
+    static std::atomic<unsigned> counter{0};
     OwnerOnlySecurity security;
-    // A replaced file takes the permissions of the new one; they are narrowed only for a
-    // file that is created now, so that an administrator's choice for an existing file stays.
-    Handle out(::CreateFileA(temporary.c_str(), GENERIC_WRITE, 0,
-                             ownerOnly && !exists ? security.get() : nullptr, CREATE_ALWAYS,
-                             FILE_ATTRIBUTE_NORMAL, nullptr));
-    return out.valid() && WriteAll(out.get(), content) && ::FlushFileBuffers(out.get());
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        temporary = path + "." + std::to_string(::GetCurrentProcessId()) + "-" +
+                    std::to_string(++counter) + "-" + std::to_string(::GetTickCount64()) + ".tmp";
+        // A file that may hold a password is created for its owner alone, also when it
+        // replaces one that allowed more.
+        NativeFile out(::CreateFileA(temporary.c_str(), GENERIC_WRITE, 0,
+                                     ownerOnly ? security.get() : nullptr, CREATE_NEW,
+                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (out.valid() || ::GetLastError() != ERROR_FILE_EXISTS) return out;
+    }
+    return NativeFile();
 }
 
 bool MoveOver(const std::string& temporary, const std::string& path) {
@@ -125,12 +98,29 @@ bool MoveOver(const std::string& temporary, const std::string& path) {
     return false;
 }
 
+bool ReplaceContent(const std::string& path, const std::string& content, FileAccess access,
+                    FileStamp* written) {
+    std::string temporary;
+    NativeFile out = CreateTemporary(path, access == FileAccess::OwnerOnly, temporary);
+    if (!out.valid()) return SystemFailure(path);
+    BY_HANDLE_FILE_INFORMATION info{};
+    const bool done = out.WriteAll(content) && ::FlushFileBuffers(out.get()) &&
+                      ::GetFileInformationByHandle(out.get(), &info);
+    if (!done || !out.Close() || !MoveOver(temporary, path)) {
+        SystemFailure(path);
+        ::DeleteFileA(temporary.c_str());
+        return false;
+    }
+    if (written) *written = StampOf(info);
+    return true;
+}
+
 }  // namespace
 
 FileStamp StatFile(const std::string& path) {
     if (path.empty()) return {};
-    Handle file(::CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
-                              FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    NativeFile file(::CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                                  FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     BY_HANDLE_FILE_INFORMATION info{};
     if (!file.valid() || !::GetFileInformationByHandle(file.get(), &info)) return {};
     return StampOf(info);
@@ -139,38 +129,37 @@ FileStamp StatFile(const std::string& path) {
 bool ReadWholeFile(const std::string& path, std::string& content, FileStamp& stamp) {
     content.clear();
     stamp = {};
-    Handle in(::CreateFileA(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
-                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    NativeFile in(::CreateFileA(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!in.valid()) return IsMissing(::GetLastError());
     BY_HANDLE_FILE_INFORMATION info{};
     if (!::GetFileInformationByHandle(in.get(), &info) ||
         (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
         return false;
     stamp = StampOf(info);
-    return ReadAll(in.get(), content);
+    return in.ReadAll(content);
 }
 
-bool UpdateFile(const std::string& path, const std::function<bool(std::string&)>& edit,
-                FileAccess access) {
-    if (path.empty()) return false;
-    const std::string folder = ParentFolder(path);
-    if (!folder.empty() && !CreateFolderTree(folder)) return false;
-
+bool UpdateFile(const std::string& path,
+                const std::function<EditOutcome(std::string&, const FileStamp&)>& edit,
+                FileAccess access, FileStamp* written) {
+    if (path.empty()) return StoreFailure(path, "no file name");
     const std::string lockPath = path + ".lock";
-    Handle lock(::CreateFileA(lockPath.c_str(), GENERIC_READ | GENERIC_WRITE, kShareAll, nullptr,
-                              OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr));
+    NativeFile lock(::CreateFileA(lockPath.c_str(), GENERIC_READ | GENERIC_WRITE, kShareAll,
+                                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr));
     OVERLAPPED whole{};
     if (!lock.valid() || !::LockFileEx(lock.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &whole))
-        return false;
+        return SystemFailure(path);
 
     std::string content;
     FileStamp stamp;
-    bool done = ReadWholeFile(path, content, stamp);
-    if (done && edit(content)) {
-        const std::string temporary = path + ".tmp";
-        done = WriteTemporary(temporary, content, access == FileAccess::OwnerOnly, stamp.exists) &&
-               MoveOver(temporary, path);
-        if (!done) ::DeleteFileA(temporary.c_str());
+    bool done = ReadWholeFile(path, content, stamp) || SystemFailure(path);
+    if (done) {
+        const EditOutcome outcome = edit(content, stamp);
+        if (outcome == EditOutcome::Write)
+            done = ReplaceContent(path, content, access, written);
+        else
+            done = outcome == EditOutcome::Keep;
     }
     ::UnlockFileEx(lock.get(), 0, 1, 0, &whole);
     return done;

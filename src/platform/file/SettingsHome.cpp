@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/file/Folders.h"
+#include "vxutil/gnrt/FilePath.h"
 
 #ifndef _WIN32
 #include <pwd.h>
@@ -79,7 +80,12 @@ std::string ResolveSettingsFile(const std::string& name) {
     if (!IsBareName(name)) return name;
     const std::string home = SettingsHome();
     if (home.empty()) return "";
-    return IsPathSeparator(home.back()) ? home + name : home + NativePathSeparator() + name;
+    return MakeFilePath(home.c_str(), name.c_str()).str();
+}
+
+void CreateSettingsHomeFor(const std::string& file) {
+    const std::string home = SettingsHome();
+    if (!home.empty() && ParentFolder(file) == home) CreateFolderTree(home);
 }
 
 }  // namespace vx

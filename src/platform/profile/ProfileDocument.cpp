@@ -3,7 +3,6 @@
 namespace vx {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t kNone = std::string::npos;
 
 // Ctrl-Z counts as a blank: old editors ended text files with one.
@@ -55,12 +54,32 @@ bool HasLineBreak(std::string_view text) {
 
 }  // namespace
 
+ProfileDocument ProfileDocument::FromBytes(std::string_view bytes) {
+    const bool tooLarge = bytes.size() > kMaxProfileBytes;
+    const DecodedText decoded = DecodeText(bytes.substr(0, kMaxProfileBytes));
+    ProfileDocument document = Parse(decoded.text);
+    document.m_encoding = decoded.encoding;
+    document.m_faithful = decoded.faithful;
+    document.m_tooLarge = tooLarge;
+    return document;
+}
+
+bool ProfileDocument::ToBytes(std::string& bytes, std::string& why) const {
+    if (m_tooLarge) {
+        why = "is larger than 4 MiB and is not rewritten";
+        return false;
+    }
+    if (!m_faithful) {
+        why = "is in an encoding that cannot be written back unchanged";
+        return false;
+    }
+    if (EncodeText(Serialize(), m_encoding, bytes)) return true;
+    why = "is UTF-16 and cannot hold the value given";
+    return false;
+}
+
 ProfileDocument ProfileDocument::Parse(std::string_view bytes) {
     ProfileDocument document;
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark) {
-        document.m_byteOrderMark = true;
-        bytes.remove_prefix(kByteOrderMark.size());
-    }
     bool endingSeen = false;
     std::size_t start = 0;
     while (start < bytes.size()) {
@@ -107,12 +126,11 @@ ProfileDocument::Line ProfileDocument::ParseLine(std::string text, std::string e
 }
 
 std::string ProfileDocument::Serialize() const {
-    std::size_t size = m_byteOrderMark ? kByteOrderMark.size() : 0;
+    std::size_t size = 0;
     for (const Line& line : m_lines)
         size += line.text.size() + line.ending.size();
     std::string bytes;
     bytes.reserve(size);
-    if (m_byteOrderMark) bytes += kByteOrderMark;
     for (const Line& line : m_lines) {
         bytes += line.text;
         bytes += line.ending;

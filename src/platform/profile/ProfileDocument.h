@@ -3,8 +3,9 @@
 // Lookups follow the rules of the Windows profile functions: section and key names compare
 // without regard to (ASCII) case, blanks around names and values do not count, and one pair
 // of matching quotes around a value is removed. Edits touch only the lines they concern, so
-// comments, lines of unknown meaning, bytes before the first section, a UTF-8 byte-order mark
-// and each line's own line ending survive a rewrite unchanged.
+// comments, lines of unknown meaning, bytes before the first section and each line's own line
+// ending survive a rewrite unchanged, and the file keeps its encoding (a UTF-8 byte-order mark,
+// UTF-16 with or without one: see TextEncoding.h).
 //
 // Where a name occurs twice, the first section of that name and its first key of that name
 // are the ones that count, as with the Windows functions.
@@ -15,6 +16,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/file/TextEncoding.h"
+
 namespace vx {
 
 // A file larger than this is no profile: it is read only up to here and never rewritten, so
@@ -23,9 +26,15 @@ constexpr std::size_t kMaxProfileBytes = std::size_t{4} << 20;
 
 class ProfileDocument {
 public:
-    // Any bytes make a document; what does not parse is kept as lines without meaning.
-    static ProfileDocument Parse(std::string_view bytes);
+    // Any text makes a document; what does not parse is kept as lines without meaning.
+    static ProfileDocument Parse(std::string_view text);
     std::string Serialize() const;
+
+    // The file's bytes in their encoding, up to kMaxProfileBytes of them.
+    static ProfileDocument FromBytes(std::string_view bytes);
+    // False, with the cause in `why`, for a file that cannot be written back without damage:
+    // one beyond the size limit, or in UTF-16 that cannot carry what it holds.
+    bool ToBytes(std::string& bytes, std::string& why) const;
 
     // The value of `key` in section `section`, without its surrounding blanks and quotes.
     std::optional<std::string> Find(std::string_view section, std::string_view key) const;
@@ -65,7 +74,9 @@ private:
 
     std::vector<Line> m_lines;
     std::string m_newLine = "\r\n";  // for lines we add: the file's first line ending
-    bool m_byteOrderMark = false;
+    TextEncoding m_encoding = TextEncoding::Plain;
+    bool m_faithful = true;  // the bytes read can be written back as they were
+    bool m_tooLarge = false;
 };
 
 }  // namespace vx

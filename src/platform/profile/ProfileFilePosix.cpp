@@ -1,11 +1,10 @@
 // The profile file engine of POSIX systems: the Windows private profile functions rebuilt on
-// the profile document, the process-wide cache and the safe file writer.
-#include "vxutil/platform/ProfileFile.h"
-
-#include "platform/profile/ProfileCache.h"
+// the profile document and the settings store.
+#include "platform/file/SettingsStore.h"
 #include "platform/profile/ProfileDocument.h"
+#include "platform/profile/ProfileEdit.h"
 #include "platform/profile/ProfileResult.h"
-#include "vxutil/platform/SafeFile.h"
+#include "vxutil/platform/ProfileFile.h"
 #include "vxutil/platform/SettingsHome.h"
 
 namespace vx {
@@ -17,7 +16,10 @@ struct Answer {
 };
 
 Answer Look(const char* section, const char* key, const char* def, const char* file) {
-    const auto document = ProfileCache::Instance().Get(ResolveSettingsFile(file ? file : ""));
+    static const ProfileDocument kEmpty;
+    const auto parsed = store::Read<ProfileDocument>(ResolveSettingsFile(file ? file : ""));
+    // An unreadable file reads as an empty one, as with the Windows functions.
+    const ProfileDocument* document = parsed ? parsed.get() : &kEmpty;
     if (!section) return {JoinProfileNames(document->SectionNames()), true};
     if (!key) {
         // A section without keys, or none at all, gives the default as Windows does.
@@ -29,9 +31,8 @@ Answer Look(const char* section, const char* key, const char* def, const char* f
     return {std::string(ProfileDefault(def)), false};
 }
 
-// The one change a write makes; false when it leaves the document as it was.
+// The change of one key; false when it leaves the document as it was.
 bool Apply(ProfileDocument& document, const char* section, const char* key, const char* value) {
-    if (!key) return document.RemoveSection(section);
     if (!value) return document.RemoveKey(section, key);
     return document.SetValue(section, key, value);
 }
@@ -60,22 +61,27 @@ bool ProfileWriteString(const char* section, const char* key, const char* value,
     // With every argument null the Windows function flushes its cache; ours has nothing
     // unwritten.
     if (!section) return !key && !value;
-    if (!ProfileDocument::CanStore(section, key ? key : "", value ? value : "")) return false;
+    if (!key) {
+        return store::Edit<ProfileDocument>(
+            ResolveSettingsFile(file ? file : ""), FileAccess::OwnerOnly,
+            [&](ProfileDocument& document) { return document.RemoveSection(section); });
+    }
+    return ProfileWriteValues(section, {{key, value}}, file);
+}
+
+bool ProfileWriteValues(const char* section, std::initializer_list<ProfileKeyValue> values,
+                        const char* file) {
     const std::string path = ResolveSettingsFile(file ? file : "");
-    bool tooLarge = false;
-    const bool written = UpdateFile(
-        path,
-        [&](std::string& content) {
-            tooLarge = content.size() > kMaxProfileBytes;
-            if (tooLarge) return false;
-            ProfileDocument document = ProfileDocument::Parse(content);
-            if (!Apply(document, section, key, value)) return false;
-            content = document.Serialize();
-            return true;
-        },
-        FileAccess::OwnerOnly);
-    ProfileCache::Instance().Forget(path);
-    return written && !tooLarge;
+    for (const ProfileKeyValue& entry : values)
+        if (!ProfileDocument::CanStore(section, entry.key, entry.value ? entry.value : ""))
+            return StoreFailure(path, "a name or value holds a line break or cannot be a key");
+    return store::Edit<ProfileDocument>(
+        path, FileAccess::OwnerOnly, [&](ProfileDocument& document) {
+            bool changed = false;
+            for (const ProfileKeyValue& entry : values)
+                changed = Apply(document, section, entry.key, entry.value) || changed;
+            return changed;
+        });
 }
 
 }  // namespace vx

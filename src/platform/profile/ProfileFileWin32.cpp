@@ -3,7 +3,11 @@
 
 #include <windows.h>
 
+#include <cstring>
+
 #include "platform/file/Folders.h"
+#include "platform/file/StoreFailure.h"
+#include "platform/profile/ProfileEdit.h"
 #include "vxutil/platform/SettingsHome.h"
 
 namespace vx {
@@ -43,10 +47,21 @@ unsigned int ProfileGetInt(const char* section, const char* key, int def, const 
 
 bool ProfileWriteString(const char* section, const char* key, const char* value, const char* file) {
     const std::string path = PathOf(file);
-    // The settings home may not exist yet; the system function creates no folders.
-    const std::string folder = ParentFolder(path);
-    if (section && !folder.empty()) CreateFolderTree(folder);
-    return ::WritePrivateProfileStringA(section, key, value, path.c_str()) != FALSE;
+    // The settings home may not exist yet; no other folder is made, as the system function
+    // makes none.
+    if (section) CreateSettingsHomeFor(path);
+    // A line break would write a second line that reads back as something else.
+    if (value && std::strpbrk(value, "\r\n"))
+        return StoreFailure(path, "a value holds a line break");
+    return ::WritePrivateProfileStringA(section, key, value, path.c_str()) != FALSE ||
+           StoreFailure(path, LastSystemErrorText());
+}
+
+bool ProfileWriteValues(const char* section, std::initializer_list<ProfileKeyValue> values,
+                        const char* file) {
+    for (const ProfileKeyValue& entry : values)
+        if (!ProfileWriteString(section, entry.key, entry.value, file)) return false;
+    return true;
 }
 
 }  // namespace vx

@@ -26,6 +26,12 @@ std::vector<std::string_view> PhysicalLines(std::string_view text) {
     return lines;
 }
 
+bool IsAscii(std::string_view text) {
+    for (char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80) return false;
+    return true;
+}
+
 }  // namespace
 
 // Where the lines that decide a value stand. Only lines after the last deletion of the key (or
@@ -37,8 +43,10 @@ struct RegistryDocument::Placement {
 
 RegistryDocument RegistryDocument::FromBytes(std::string_view bytes) {
     RegistryDocument document;
-    DecodedText decoded = DecodeRegistryFile(bytes);
+    DecodedText decoded = DecodeText(bytes);
     document.m_encoding = decoded.encoding;
+    document.m_faithful = decoded.faithful;
+    document.m_asciiOnly = IsAscii(bytes);
     const auto physical = PhysicalLines(decoded.text);
     for (std::size_t i = 0; i < physical.size(); ++i) {
         std::string raw(physical[i]);
@@ -54,13 +62,27 @@ RegistryDocument RegistryDocument::FromBytes(std::string_view bytes) {
     return document;
 }
 
-std::string RegistryDocument::ToBytes() const {
+TextEncoding RegistryDocument::EncodingToWrite(std::string_view text) const {
+    if (m_encoding != TextEncoding::Plain || !m_asciiOnly || IsAscii(text)) return m_encoding;
+    for (const auto& line : m_lines)
+        if (line.type == LineType::Header && line.raw.starts_with(kHeaderVersion4))
+            return m_encoding;  // REGEDIT4 files are ANSI by definition
+    return TextEncoding::Utf16Le;
+}
+
+bool RegistryDocument::ToBytes(std::string& bytes, std::string& why) const {
+    if (!m_faithful) {
+        why = "is in an encoding that cannot be written back unchanged";
+        return false;
+    }
     std::string text;
     for (const auto& line : m_lines) {
         text += line.raw;
         text += "\r\n";
     }
-    return EncodeRegistryFile(text, m_encoding);
+    if (EncodeText(text, EncodingToWrite(text), bytes)) return true;
+    why = "is UTF-16 and cannot hold the value given";
+    return false;
 }
 
 const RegistryValue* RegistryDocument::Find(std::string_view key, std::string_view name) const {
@@ -76,7 +98,7 @@ RegistryDocument::Placement RegistryDocument::Locate(const std::string& foldedKe
         const RegistryLine& line = m_lines[i];
         switch (line.type) {
             case LineType::Key:
-                inKey = FoldKey(line.key) == foldedKey;
+                inKey = FoldsTo(NormalizeKeyPath(line.key), foldedKey);
                 if (inKey) placement.lastSection = i;
                 break;
             case LineType::BadKey:
@@ -88,7 +110,7 @@ RegistryDocument::Placement RegistryDocument::Locate(const std::string& foldedKe
                 break;
             case LineType::Value:
             case LineType::ValueDeletion:
-                if (inKey && FoldCase(line.name) == foldedName) placement.valueLines.push_back(i);
+                if (inKey && FoldsTo(line.name, foldedName)) placement.valueLines.push_back(i);
                 break;
             default:
                 break;
@@ -99,10 +121,12 @@ RegistryDocument::Placement RegistryDocument::Locate(const std::string& foldedKe
 
 bool RegistryDocument::Set(std::string_view key, std::string_view name,
                            const RegistryValue& value) {
-    const RegistryValue* current = Find(key, name);
-    if (current && *current == value) return false;
+    const std::string foldedKey = FoldKey(key);
+    const std::string foldedName = FoldCase(name);
+    const auto current = m_values.find({foldedKey, foldedName});
+    if (current != m_values.end() && current->second == value) return false;
 
-    const Placement placement = Locate(FoldKey(key), FoldCase(name));
+    const Placement placement = Locate(foldedKey, foldedName);
     if (!placement.valueLines.empty()) {
         RegistryLine& line = m_lines[placement.valueLines.back()];
         line = MakeValueLine(line.name, value);
@@ -128,18 +152,20 @@ bool RegistryDocument::Set(std::string_view key, std::string_view name,
         m_lines.push_back(MakeValueLine(name, value));
         m_lines.push_back(MakeBlankLine());
     }
-    Reindex();
+    // The line just written comes after every line that could override it.
+    m_values[{foldedKey, foldedName}] = value;
     return true;
 }
 
 bool RegistryDocument::Remove(std::string_view key, std::string_view name) {
-    if (!Find(key, name)) return false;
-    const Placement placement = Locate(FoldKey(key), FoldCase(name));
+    const auto current = m_values.find({FoldKey(key), FoldCase(name)});
+    if (current == m_values.end()) return false;
+    const Placement placement = Locate(current->first.first, current->first.second);
     for (auto it = placement.valueLines.rbegin(); it != placement.valueLines.rend(); ++it) {
         if (m_lines[*it].type == LineType::Value)
             m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(*it));
     }
-    Reindex();
+    m_values.erase(current);
     return true;
 }
 

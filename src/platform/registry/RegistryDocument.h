@@ -6,6 +6,10 @@
 // order, "[-path]" removes a key with everything below it and "name"=- removes a value. Key
 // paths are full paths as they stand between the brackets ("HKEY_CURRENT_USER\SOFTWARE\...").
 // Key paths and names given to Set must not hold line breaks.
+//
+// A file is written back in the encoding it came in. regedit reads a version-5 file without a
+// byte-order mark as ANSI, so a file that held only ASCII (a new one among them) and gains other
+// characters is written as regedit writes its own exports: UTF-16LE with a byte-order mark.
 #pragma once
 
 #include <map>
@@ -14,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/registry/RegistryEncoding.h"
+#include "platform/file/TextEncoding.h"
 #include "platform/registry/RegistryLine.h"
 #include "platform/registry/RegistryValue.h"
 
@@ -27,8 +31,9 @@ public:
 
     // Never fails: a truncated or binary file gives the lines that make sense.
     static RegistryDocument FromBytes(std::string_view bytes);
-    // CR LF line ends, in the encoding the file was read in.
-    std::string ToBytes() const;
+    // CR LF line ends, in the file's encoding. False, with the cause in `why`, when the file
+    // cannot be written back without damage.
+    bool ToBytes(std::string& bytes, std::string& why) const;
 
     // The value in force, or null when absent.
     const RegistryValue* Find(std::string_view key, std::string_view name) const;
@@ -46,9 +51,12 @@ private:
     Placement Locate(const std::string& foldedKey, const std::string& foldedName) const;
     void EnsureHeader();
     void Reindex();
+    TextEncoding EncodingToWrite(std::string_view text) const;
 
     std::vector<RegistryLine> m_lines;
     TextEncoding m_encoding = TextEncoding::Plain;
+    bool m_faithful = true;   // the bytes read can be written back as they were
+    bool m_asciiOnly = true;  // the bytes read held nothing but ASCII
     ValueMap m_values;
 };
 

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "platform/registry/RegistryEncoding.h"
+#include "platform/file/TextEncoding.h"
 #include "platform/registry/RegistryPath.h"
 
 namespace vx::registry {

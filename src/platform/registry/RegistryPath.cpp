@@ -24,6 +24,16 @@ std::string FoldCase(std::string_view text) {
     return folded;
 }
 
+bool FoldsTo(std::string_view text, std::string_view folded) {
+    if (text.size() != folded.size()) return false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) != folded[i])
+            return false;
+    }
+    return true;
+}
+
 bool IsSameOrBelow(std::string_view key, std::string_view ancestor) {
     if (!key.starts_with(ancestor)) return false;
     return key.size() == ancestor.size() || key[ancestor.size()] == '\\';

@@ -1,13 +1,8 @@
-// The registry file in the settings home. Reads share one parsed copy of the file, taken again
-// only when the file changed on disk; every write goes through the locked read-edit-rename of
-// UpdateFile, so that concurrent writers never lose each other's values.
-#include <functional>
-#include <memory>
-#include <mutex>
-
+// The registry file in the settings home, kept by the settings store: reads share its parsed
+// copy while the file is unchanged, and every edit is one locked read-modify-write.
+#include "platform/file/SettingsStore.h"
 #include "platform/registry/RegistryDocument.h"
 #include "platform/registry/RegistryStore.h"
-#include "vxutil/platform/SafeFile.h"
 #include "vxutil/platform/SettingsHome.h"
 
 namespace vx::registry {
@@ -23,56 +18,44 @@ std::string FullKey(const std::string& keyPath) {
     return key;
 }
 
-class DocumentCache {
+class DocumentReader : public KeyReader {
 public:
-    // The parsed file as it is now on disk; null when it cannot be read.
-    std::shared_ptr<const RegistryDocument> Current(const std::string& path) {
-        const FileStamp stamp = StatFile(path);
-        std::lock_guard lock(m_mutex);
-        if (m_document && m_path == path && m_stamp == stamp) return m_document;
-        std::string content;
-        FileStamp readStamp;
-        if (!ReadWholeFile(path, content, readStamp)) return nullptr;
-        m_document = std::make_shared<const RegistryDocument>(RegistryDocument::FromBytes(content));
-        m_path = path;
-        m_stamp = readStamp;
-        return m_document;
-    }
-
-    // A file rewritten within the resolution of its time stamp could otherwise look unchanged.
-    void Forget() {
-        std::lock_guard lock(m_mutex);
-        m_document.reset();
+    DocumentReader(const RegistryDocument* document, std::string key)
+        : m_document(document), m_key(std::move(key)) {}
+    bool Read(const std::string& name, RegistryValue& out) const override {
+        const RegistryValue* value = m_document ? m_document->Find(m_key, name) : nullptr;
+        if (value) out = *value;
+        return value != nullptr;
     }
 
 private:
-    std::mutex m_mutex;
-    std::string m_path;
-    FileStamp m_stamp;
-    std::shared_ptr<const RegistryDocument> m_document;
+    const RegistryDocument* m_document;
+    std::string m_key;
 };
 
-DocumentCache& Cache() {
-    static DocumentCache cache;
-    return cache;
-}
+class DocumentEditor : public KeyEditor {
+public:
+    DocumentEditor(RegistryDocument& document, std::string key)
+        : m_document(document), m_key(std::move(key)) {}
+    bool Read(const std::string& name, RegistryValue& out) const override {
+        return DocumentReader(&m_document, m_key).Read(name, out);
+    }
+    bool Write(const std::string& name, const RegistryValue& value) override {
+        m_changed = m_document.Set(m_key, name, value) || m_changed;
+        return true;
+    }
+    bool Remove(const std::string& name) override {
+        const bool removed = m_document.Remove(m_key, name);
+        m_changed = removed || m_changed;
+        return removed;
+    }
+    bool changed() const { return m_changed; }
 
-// Applies `change` to the file under its lock. `changed` tells whether anything was written.
-bool EditFile(const std::function<bool(RegistryDocument&)>& change, bool& changed) {
-    changed = false;
-    EnsureSettingsHome();
-    const bool written = UpdateFile(
-        Location(),
-        [&](std::string& content) {
-            RegistryDocument document = RegistryDocument::FromBytes(content);
-            changed = change(document);
-            if (changed) content = document.ToBytes();
-            return changed;
-        },
-        FileAccess::OwnerOnly);
-    Cache().Forget();
-    return written;
-}
+private:
+    RegistryDocument& m_document;
+    std::string m_key;
+    bool m_changed = false;
+};
 
 }  // namespace
 
@@ -80,27 +63,18 @@ std::string Location() {
     return ResolveSettingsFile(kFileName);
 }
 
-bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValue& out) {
-    const auto document = Cache().Current(Location());
-    const RegistryValue* value = document ? document->Find(FullKey(keyPath), name) : nullptr;
-    if (!value) return false;
-    out = *value;
-    return true;
+void ReadKey(const std::string& keyPath, const std::function<void(const KeyReader&)>& read) {
+    const auto document = store::Read<RegistryDocument>(Location());
+    read(DocumentReader(document.get(), FullKey(keyPath)));
 }
 
-bool WriteValue(const std::string& keyPath, const std::string& name, const RegistryValue& value) {
-    bool changed = false;
-    return EditFile(
-        [&](RegistryDocument& document) { return document.Set(FullKey(keyPath), name, value); },
-        changed);
-}
-
-bool DeleteValue(const std::string& keyPath, const std::string& name) {
-    bool changed = false;
-    const bool written = EditFile(
-        [&](RegistryDocument& document) { return document.Remove(FullKey(keyPath), name); },
-        changed);
-    return written && changed;
+bool EditKey(const std::string& keyPath, const std::function<void(KeyEditor&)>& edit) {
+    return store::Edit<RegistryDocument>(Location(), FileAccess::OwnerOnly,
+                                         [&](RegistryDocument& document) {
+                                             DocumentEditor editor(document, FullKey(keyPath));
+                                             edit(editor);
+                                             return editor.changed();
+                                         });
 }
 
 }  // namespace vx::registry

@@ -1,9 +1,13 @@
 // The user's registry hive. Only REG_SZ and REG_DWORD are read; a value of another kind is
-// reported as present but unreadable.
+// reported as present but unreadable. Views of a key hold a named mutex of that key for as long
+// as they are in use, so that an operation of several values is isolated from other processes.
 #include <windows.h>
 
 #include <cstring>
 
+#include "platform/file/NativeFile.h"
+#include "platform/file/StoreFailure.h"
+#include "platform/registry/RegistryPath.h"
 #include "platform/registry/RegistryStore.h"
 
 namespace vx::registry {
@@ -48,17 +52,10 @@ bool QueryValue(HKEY key, const std::string& name, DWORD& type, std::string& dat
     return false;
 }
 
-}  // namespace
-
-std::string Location() {
-    return "HKEY_CURRENT_USER";
-}
-
-bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValue& out) {
-    OpenKey key(keyPath, KEY_QUERY_VALUE, false);
+bool ReadFrom(HKEY key, const std::string& name, RegistryValue& out) {
     DWORD type = REG_NONE;
     std::string data;
-    if (!key.get() || !QueryValue(key.get(), name, type, data)) return false;
+    if (!key || !QueryValue(key, name, type, data)) return false;
     if (type == REG_SZ) {
         // The stored terminator, if any, is not part of the text.
         out = StringValue(std::string(data.c_str()));
@@ -72,23 +69,91 @@ bool ReadValue(const std::string& keyPath, const std::string& name, RegistryValu
     return true;
 }
 
-bool WriteValue(const std::string& keyPath, const std::string& name, const RegistryValue& value) {
-    OpenKey key(keyPath, KEY_SET_VALUE, true);
-    if (!key.get()) return false;
-    if (value.kind == ValueKind::Dword) {
-        const DWORD number = value.dword;
-        return RegSetValueExA(key.get(), name.c_str(), 0, REG_DWORD,
-                              reinterpret_cast<const BYTE*>(&number),
-                              sizeof number) == ERROR_SUCCESS;
+// The mutex of a key, held from construction to destruction. A holder that died leaves it
+// abandoned, which hands it on like a release: the values it wrote stand in the safe order.
+class KeyMutex {
+public:
+    explicit KeyMutex(const std::string& keyPath) {
+        std::string name = "Local\\vxutil-registry-" + FoldCase(keyPath);
+        for (std::size_t i = sizeof "Local\\" - 1; i < name.size(); ++i)
+            if (name[i] == '\\') name[i] = '/';
+        const HANDLE mutex = ::CreateMutexA(nullptr, FALSE, name.c_str());
+        if (!mutex) return;
+        m_mutex = NativeFile(mutex);
+        const DWORD waited = ::WaitForSingleObject(m_mutex.get(), INFINITE);
+        m_held = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
     }
-    return RegSetValueExA(key.get(), name.c_str(), 0, REG_SZ,
-                          reinterpret_cast<const BYTE*>(value.text.c_str()),
-                          static_cast<DWORD>(value.text.size() + 1)) == ERROR_SUCCESS;
+    KeyMutex(const KeyMutex&) = delete;
+    KeyMutex& operator=(const KeyMutex&) = delete;
+    ~KeyMutex() {
+        if (m_held) ::ReleaseMutex(m_mutex.get());
+    }
+
+private:
+    NativeFile m_mutex;
+    bool m_held = false;
+};
+
+class HiveReader : public KeyReader {
+public:
+    explicit HiveReader(const std::string& keyPath) : m_key(keyPath, KEY_QUERY_VALUE, false) {}
+    bool Read(const std::string& name, RegistryValue& out) const override {
+        return ReadFrom(m_key.get(), name, out);
+    }
+
+private:
+    OpenKey m_key;
+};
+
+class HiveEditor : public KeyEditor {
+public:
+    explicit HiveEditor(const std::string& keyPath)
+        : m_path(keyPath), m_key(keyPath, KEY_QUERY_VALUE | KEY_SET_VALUE, true) {}
+    bool Read(const std::string& name, RegistryValue& out) const override {
+        return ReadFrom(m_key.get(), name, out);
+    }
+    bool Write(const std::string& name, const RegistryValue& value) override {
+        LSTATUS status = ERROR_INVALID_HANDLE;
+        if (m_key.get() && value.kind == ValueKind::Dword) {
+            const DWORD number = value.dword;
+            status = RegSetValueExA(m_key.get(), name.c_str(), 0, REG_DWORD,
+                                    reinterpret_cast<const BYTE*>(&number), sizeof number);
+        } else if (m_key.get()) {
+            status = RegSetValueExA(m_key.get(), name.c_str(), 0, REG_SZ,
+                                    reinterpret_cast<const BYTE*>(value.text.c_str()),
+                                    static_cast<DWORD>(value.text.size() + 1));
+        }
+        if (status == ERROR_SUCCESS) return true;
+        m_failed = true;
+        return StoreFailure("HKEY_CURRENT_USER\\" + m_path, SystemErrorText(status));
+    }
+    bool Remove(const std::string& name) override {
+        return m_key.get() && RegDeleteValueA(m_key.get(), name.c_str()) == ERROR_SUCCESS;
+    }
+    bool failed() const { return m_failed || !m_key.get(); }
+
+private:
+    std::string m_path;
+    OpenKey m_key;
+    bool m_failed = false;
+};
+
+}  // namespace
+
+std::string Location() {
+    return "HKEY_CURRENT_USER";
 }
 
-bool DeleteValue(const std::string& keyPath, const std::string& name) {
-    OpenKey key(keyPath, KEY_SET_VALUE, false);
-    return key.get() && RegDeleteValueA(key.get(), name.c_str()) == ERROR_SUCCESS;
+void ReadKey(const std::string& keyPath, const std::function<void(const KeyReader&)>& read) {
+    const KeyMutex isolated(keyPath);
+    read(HiveReader(keyPath));
+}
+
+bool EditKey(const std::string& keyPath, const std::function<void(KeyEditor&)>& edit) {
+    const KeyMutex isolated(keyPath);
+    HiveEditor editor(keyPath);
+    edit(editor);
+    return !editor.failed();
 }
 
 }  // namespace vx::registry

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace vx::registry {
@@ -26,5 +27,12 @@ inline RegistryValue StringValue(std::string text) {
 inline RegistryValue DwordValue(std::uint32_t number) {
     return {ValueKind::Dword, {}, number};
 }
+
+// The value as text: a string as it stands, a dword as its signed decimal text (ffffffff is
+// "-1"); nothing for another kind.
+std::optional<std::string> TextOf(const RegistryValue& value);
+// The value as a signed 32-bit number: a dword sign-extended, a string holding a decimal
+// integer (blanks around it allowed); nothing otherwise.
+std::optional<std::int32_t> NumberOf(const RegistryValue& value);
 
 }  // namespace vx::registry

@@ -8,7 +8,9 @@
 #include <strings.h>
 #include <cerrno>
 
+#include "platform/file/NativeFile.h"
 #include "runtime/files/FileSystem.h"
+#include "vxutil/gnrt/FilePath.h"
 
 namespace vx {
 namespace {
@@ -30,40 +32,12 @@ bool IsFolder(const std::string& path) {
     return ::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
-// Closes the descriptor when the scope ends.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (m_fd >= 0) ::close(m_fd);
-    }
-    int get() const { return m_fd; }
-    bool Close() {
-        const int fd = m_fd;
-        m_fd = -1;
-        return ::close(fd) == 0;
-    }
-
-private:
-    int m_fd;
-};
-
-bool CopyBytes(int in, int out) {
+bool CopyBytes(NativeFile& in, NativeFile& out) {
     char buffer[64 * 1024];
     for (;;) {
-        const ssize_t got = ::read(in, buffer, sizeof buffer);
-        if (got == 0) return true;
-        if (got < 0) {
-            if (errno == EINTR) continue;
-            return false;
-        }
-        for (ssize_t done = 0; done < got;) {
-            const ssize_t put = ::write(out, buffer + done, static_cast<size_t>(got - done));
-            if (put < 0 && errno != EINTR) return false;
-            if (put > 0) done += put;
-        }
+        const long long got = in.Read(buffer, sizeof buffer);
+        if (got <= 0) return got == 0;
+        if (!out.WriteAll(std::string_view(buffer, static_cast<std::size_t>(got)))) return false;
     }
 }
 
@@ -77,16 +51,15 @@ bool CopyLink(const std::string& source, const std::string& target) {
 
 bool CopyRegularFile(const std::string& source, const std::string& target) {
     // Non-blocking, so that a FIFO swapped in after the check cannot hang the copy.
-    Descriptor in(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    NativeFile in(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
     struct stat info {};
-    if (in.get() < 0 || ::fstat(in.get(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
-    Descriptor out(
+    if (!in.valid() || ::fstat(in.get(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
+    NativeFile out(
         ::open(target.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, info.st_mode & 07777));
-    if (out.get() < 0) return false;  // an existing target is kept
+    if (!out.valid()) return false;  // an existing target is kept
     // The copy keeps the source's modification time, as CopyFileA does.
     const struct timespec times[2] = {info.st_atim, info.st_mtim};
-    if (CopyBytes(in.get(), out.get()) && ::futimens(out.get(), times) == 0 && out.Close())
-        return true;
+    if (CopyBytes(in, out) && ::futimens(out.get(), times) == 0 && out.Close()) return true;
     ::unlink(target.c_str());
     return false;
 }
@@ -133,7 +106,7 @@ bool CopyFileKeepingTarget(const std::string& source, const std::string& target)
 
 bool StoredName(const std::string& folder, const std::string& name, std::string& stored) {
     const auto inFolder = [&folder](const std::string& entry) {
-        return !folder.empty() && folder.back() == '/' ? folder + entry : folder + '/' + entry;
+        return MakeFilePath(folder.c_str(), entry.c_str()).str();
     };
     // The usual case, without listing the folder: the exact name exists, and its case-flipped
     // spelling is another file or none, so the file system tells letter case apart and the

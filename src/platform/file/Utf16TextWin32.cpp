@@ -1,10 +1,10 @@
-#include "platform/registry/Utf16Text.h"
+#include "platform/file/Utf16Text.h"
 
 #include <windows.h>
 
 #include <climits>
 
-namespace vx::registry {
+namespace vx {
 
 std::string Utf16ToClient(std::u16string_view text) {
     if (text.empty() || text.size() > INT_MAX / 4) return {};
@@ -29,4 +29,4 @@ std::u16string ClientToUtf16(std::string_view text) {
     return out;
 }
 
-}  // namespace vx::registry
+}  // namespace vx

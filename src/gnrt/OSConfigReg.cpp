@@ -1,18 +1,14 @@
-// The system configuration primitives over the backend of the platform. What they share lives
-// here: the key path below HKEY_CURRENT_USER, and the readings of a number as text and of a text
-// as a number.
+// The system configuration primitives over the registry backend of the platform
+// (src/platform/registry): the key path below HKEY_CURRENT_USER and the checks of names.
 #include "vxutil/gnrt/OSConfigReg.h"
 
-#include <charconv>
 #include <cstdint>
-#include <limits>
 #include <optional>
 
 #include "platform/registry/RegistryPath.h"
 #include "platform/registry/RegistryStore.h"
 
 using vx::registry::RegistryValue;
-using vx::registry::ValueKind;
 
 namespace {
 
@@ -56,46 +52,20 @@ int Write(const CGNString& root, const CGNString& keyPath, const CGNString& valu
     return address && vx::registry::WriteValue(address->keyPath, address->name, value) ? 1 : 0;
 }
 
-// A dword is a signed 32-bit number to the client: ffffffff is -1.
-std::int32_t SignExtended(std::uint32_t dword) {
-    return static_cast<std::int32_t>(dword);
-}
-
-// A text that holds a decimal 32-bit integer, blanks around it allowed.
-std::optional<std::int32_t> ParseDecimal(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return std::nullopt;
-    text = text.substr(first, text.find_last_not_of(" \t") - first + 1);
-    if (text.starts_with('+')) text.remove_prefix(1);
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
 }  // namespace
 
 int OSGetSystemConfigReg(CGNString& out, const CGNString& def, const CGNString& keyPath,
                          const CGNString& valueName, const CGNString& root) {
     const auto value = Read(root, keyPath, valueName);
-    if (value && value->kind == ValueKind::String) {
-        out = CGNString(value->text);
-        return 1;
-    }
-    if (value && value->kind == ValueKind::Dword) {
-        out = CGNString(std::to_string(SignExtended(value->dword)));
-        return 1;
-    }
-    out = def;
-    return 0;
+    const auto text = value ? vx::registry::TextOf(*value) : std::nullopt;
+    out = text ? CGNString(*text) : def;
+    return text ? 1 : 0;
 }
 
 int OSGetSystemConfigReg(long& out, long def, const CGNString& keyPath, const CGNString& valueName,
                          const CGNString& root) {
     const auto value = Read(root, keyPath, valueName);
-    std::optional<std::int32_t> number;
-    if (value && value->kind == ValueKind::Dword) number = SignExtended(value->dword);
-    if (value && value->kind == ValueKind::String) number = ParseDecimal(value->text);
+    const auto number = value ? vx::registry::NumberOf(*value) : std::nullopt;
     out = number ? *number : def;
     return number ? 1 : 0;
 }

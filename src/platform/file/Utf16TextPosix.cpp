@@ -1,8 +1,8 @@
-#include "platform/registry/Utf16Text.h"
+#include "platform/file/Utf16Text.h"
 
 #include <cstdint>
 
-namespace vx::registry {
+namespace vx {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
@@ -105,4 +105,4 @@ std::u16string ClientToUtf16(std::string_view text) {
     return out;
 }
 
-}  // namespace vx::registry
+}  // namespace vx
