@@ -15,15 +15,17 @@ namespace {
 
 class VxenvTest : public vx::test::AppEnvTest {
 protected:
-    // Runs vxenv with `arguments` (shell words) and keeps its standard output; gives the exit
-    // status, -1 when it did not exit normally.
-    int Run(const std::string& arguments, std::string* out = nullptr) {
+    // Runs vxenv with `arguments` (shell words) and keeps its standard output and error; gives
+    // the exit status, -1 when it did not exit normally.
+    int Run(const std::string& arguments, std::string* out = nullptr, std::string* err = nullptr) {
         const std::string outFile = home.file("vxenv.out");
-        const int code =
-            std::system(("'" VXENV_PROGRAM "' --home '" + home.path().string() +
-                         "' --app vxappenvtest " + arguments + " >'" + outFile + "' 2>/dev/null")
-                            .c_str());
+        const std::string errFile = home.file("vxenv.err");
+        const int code = std::system(("'" VXENV_PROGRAM "' --home '" + home.path().string() +
+                                      "' --app vxappenvtest " + arguments + " >'" + outFile +
+                                      "' 2>'" + errFile + "'")
+                                         .c_str());
         if (out != nullptr) *out = vx::test::ReadBytes(outFile);
+        if (err != nullptr) *err = vx::test::ReadBytes(errFile);
         return WIFEXITED(code) ? WEXITSTATUS(code) : -1;
     }
     std::string Output(const std::string& arguments) {
@@ -87,6 +89,29 @@ TEST_F(VxenvTest, PreferencesPathsAndServers) {
     EXPECT_EQ(Run("servers attrs ann nowhere"), 1);
     EXPECT_EQ(Run("servers set ann main:vx:99999"), 2);
     EXPECT_EQ(Run("servers set zed main"), 1);
+}
+
+TEST_F(VxenvTest, RefusedWritesFailWithTheFileAndTheCause) {
+    const std::string ann = Folder("ann");
+    ASSERT_EQ(Run("users add ann '" + ann + "'"), 0);
+    ASSERT_EQ(Run("users default '" + Folder("default") + "'"), 0);
+    ASSERT_EQ(Run("login remember ann old"), 0);
+    std::string err;
+    EXPECT_EQ(Run("login remember ann \"$(printf 'new\\npw')\"", nullptr, &err), 1);
+    EXPECT_EQ(err, "vxenv: login remember: could not store the login: " + SettingsFile(ann) +
+                       ": a name or value holds a line break or cannot be a key\n");
+    EXPECT_EQ(Remembered(ann, "Password"), "old");
+
+    // A home folder that is gone grows no new tree.
+    ASSERT_EQ(Run("users add carl '" + home.file("gone/carl") + "'"), 0);
+    EXPECT_EQ(Run("login remember carl pw", nullptr, &err), 1);
+    EXPECT_NE(err.find("folder does not exist"), std::string::npos) << err;
+    EXPECT_FALSE(std::filesystem::exists(home.file("gone")));
+
+    // Setters without a result report through the exit status.
+    std::filesystem::create_symlink(home.file("nowhere.ini"), home.file("vxappenvtest.ini"));
+    EXPECT_EQ(Run("prefs set max-in-query 250", nullptr, &err), 1);
+    EXPECT_NE(err.find("dangling symbolic link"), std::string::npos) << err;
 }
 
 }  // namespace
