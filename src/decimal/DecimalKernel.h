@@ -66,20 +66,16 @@ public:
     }
 
     static Outcome Add(const Num& a, const Num& b, Num& result) {
-        int scale = std::max(a.scale, b.scale);
-        Wide256<U> left = Aligned(a, scale);
-        Wide256<U> right = Aligned(b, scale);
-        bool negative = a.negative;
-        if (a.negative == b.negative) {
-            left.Add(right);
-        } else if (left.CompareTo(right) >= 0) {
-            left.Subtract(right);
-        } else {
-            right.Subtract(left);
-            left = right;
-            negative = b.negative;
-        }
-        return Fit(left, negative, scale, kMaxScale, Dropped(), result);
+        const int scale = std::max(a.scale, b.scale);
+        // Places that differ by at most nine align within U: 2^95 * 10^9 < 2^126, and the sum
+        // stays below 2^127.
+        const int shift = a.scale - b.scale;
+        if (shift < -9 || shift > 9) return AddAligned(a, b, scale, result);
+        U left = a.magnitude, right = b.magnitude;
+        if (shift < 0) left = left * U(Pow10(-shift));
+        if (shift > 0) right = right * U(Pow10(shift));
+        const bool negative = SignedSum(left, right, a.negative, b.negative);
+        return FitNarrow(left, negative, scale, result);
     }
 
     static Outcome Subtract(const Num& a, const Num& b, Num& result) {
@@ -89,6 +85,12 @@ public:
     }
 
     static Outcome Multiply(const Num& a, const Num& b, Num& result) {
+        // Most mantissas have 64 bits or fewer, and then their product fits in U.
+        if ((a.magnitude >> 64) == U(0) && (b.magnitude >> 64) == U(0)) {
+            const U product = U(static_cast<std::uint64_t>(a.magnitude)) *
+                              U(static_cast<std::uint64_t>(b.magnitude));
+            return FitNarrow(product, a.negative != b.negative, a.scale + b.scale, result);
+        }
         return Fit(Wide256<U>::Product(a.magnitude, b.magnitude), a.negative != b.negative,
                    a.scale + b.scale, kMaxScale, Dropped(), result);
     }
@@ -184,6 +186,29 @@ private:
         bool sticky = false;
     };
 
+    // left = (left with its sign) + (right with its sign), as a magnitude; returns its sign.
+    template <class T>
+    static bool SignedSum(T& left, const T& right, bool leftNegative, bool rightNegative) {
+        if (leftNegative == rightNegative) {
+            left = left + right;
+            return leftNegative;
+        }
+        if (!(left < right)) {
+            left = left - right;
+            return leftNegative;
+        }
+        left = right - left;
+        return rightNegative;
+    }
+
+    // The sum of operands whose places differ too much to align within U.
+    [[gnu::noinline]] static Outcome AddAligned(const Num& a, const Num& b, int scale,
+                                                Num& result) {
+        Wide256<U> left = Aligned(a, scale);
+        const bool negative = SignedSum(left, Aligned(b, scale), a.negative, b.negative);
+        return Fit(left, negative, scale, kMaxScale, Dropped(), result);
+    }
+
     // 10^exponent for 0 <= exponent <= 19.
     static std::uint64_t Pow10(int exponent) {
         static constexpr auto kPowers = [] {
@@ -262,8 +287,21 @@ private:
         return bits <= 96 ? 0 : ((bits - 96) * 1233) >> 12;
     }
 
-    static Outcome Fit(Wide256<U> value, bool negative, int scale, int maxScale, Dropped dropped,
-                       Num& result) {
+    // Fit for a value within U, with the common case first: it fits as it is.
+    static Outcome FitNarrow(U value, bool negative, int scale, Num& result,
+                             Dropped dropped = Dropped()) {
+        if (scale > kMaxScale || value > MaxMagnitude() || dropped.digit >= 5)
+            return Fit(Wide256<U>(value), negative, scale, kMaxScale, dropped, result);
+        result.magnitude = value;
+        result.negative = negative && value != U(0);
+        result.scale = scale;
+        return dropped.digit > 0 || dropped.sticky ? Outcome::kInexact : Outcome::kExact;
+    }
+
+    // Out of line, like the other rare paths, so that the common ones stay small enough to
+    // keep their numbers in registers.
+    [[gnu::noinline]] static Outcome Fit(Wide256<U> value, bool negative, int scale, int maxScale,
+                                         Dropped dropped, Num& result) {
         int skip = std::max(scale - maxScale, ExcessDigits(value));
         if (skip > scale) return Outcome::kOverflow;
         if (skip > 0) {
@@ -279,7 +317,7 @@ private:
             if (dropped.digit < 5) break;
             // Rounded up; what was dropped now only tells that the result is inexact. Only
             // the largest magnitude plus one fails to fit, and loses one more digit.
-            value.Add(Wide256<U>(U(1)));
+            value += Wide256<U>(U(1));
             dropped = Dropped{0, true};
         }
         result.magnitude = value.Low();

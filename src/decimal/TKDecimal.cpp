@@ -14,8 +14,6 @@ using Kernel = vx::decimal::Kernel<vx::decimal::Native128>;
 using Number = Kernel::Num;
 using vx::decimal::Outcome;
 
-constexpr std::int32_t kBadHigh = -2147483647 - 1;
-
 Number ToNumber(const TKDecimal& value) {
     return Kernel::FromWords(value.GetHigh(), value.GetMiddle(), value.GetLow(), value.GetScale());
 }
@@ -83,8 +81,8 @@ TKStatus Apply(Outcome (*compute)(const Number&, const Number&, Number&), Operat
         return TKStatus::kNotANumber;
     }
     Number number;
-    return FaultsOf(operation).Report(
-        Store(compute(ToNumber(a), ToNumber(b), number), number, result));
+    const TKStatus status = Store(compute(ToNumber(a), ToNumber(b), number), number, result);
+    return status == TKStatus::kExact ? status : FaultsOf(operation).Report(status);
 }
 
 bool AllDigits(const std::string& text) {
@@ -133,13 +131,10 @@ void Magnitude(const TKDecimal& value, std::uint32_t (&words)[3]) {
 
 }  // namespace
 
-TKDecimal::TKDecimal(std::int32_t high, std::uint32_t middle, std::uint32_t low, int scale)
-    : m_nHigh(high), m_nMiddle(middle), m_nLow(low), m_nScale(scale) {
-    if (scale < 0 || scale > kMaxScale) {
-        TKReportError(
-            TKMakeMessage(tkdcml::kPowRange, kTypeName, scale, static_cast<unsigned>(kMaxScale)));
-        *this = BadValue();
-    }
+TKDecimal TKDecimal::OutOfRange(int scale) {
+    TKReportError(
+        TKMakeMessage(tkdcml::kPowRange, kTypeName, scale, static_cast<unsigned>(kMaxScale)));
+    return BadValue();
 }
 
 TKDecimal TKDecimal::FromInteger(std::int64_t value) {
@@ -154,10 +149,6 @@ TKDecimal TKDecimal::BadValue() {
     TKDecimal bad;
     bad.m_nHigh = kBadHigh;
     return bad;
-}
-
-bool TKDecimal::IsBad() const {
-    return m_nHigh == kBadHigh && m_nMiddle == 0 && m_nLow == 0;
 }
 
 TKStatus TKDecimal::FromPortable(const TKDecimalPortable& portable, TKDecimal& result) {

@@ -70,23 +70,30 @@ public:
         return static_cast<std::uint64_t>(remainder);
     }
 
-    void Add(const Wide256& other) {
+    Wide256& operator+=(const Wide256& other) {
         std::uint64_t carry = 0;
         for (int i = 0; i < 4; ++i) {
             U cell = U(m_limbs[i]) + U(other.m_limbs[i]) + U(carry);
             m_limbs[i] = static_cast<std::uint64_t>(cell);
             carry = static_cast<std::uint64_t>(cell >> 64);
         }
+        return *this;
     }
 
-    // this -= other; the caller makes sure that other is not greater.
-    void Subtract(const Wide256& other) {
+    // The caller makes sure that other is not greater.
+    Wide256& operator-=(const Wide256& other) {
         std::uint64_t borrow = 0;
         for (int i = 0; i < 4; ++i) {
             std::uint64_t subtrahend = other.m_limbs[i] + borrow;
             borrow = (subtrahend < borrow || m_limbs[i] < subtrahend) ? 1 : 0;
             m_limbs[i] -= subtrahend;
         }
+        return *this;
+    }
+    friend Wide256 operator+(Wide256 left, const Wide256& right) { return left += right; }
+    friend Wide256 operator-(Wide256 left, const Wide256& right) { return left -= right; }
+    friend bool operator<(const Wide256& left, const Wide256& right) {
+        return left.CompareTo(right) < 0;
     }
 
     int CompareTo(const Wide256& other) const {

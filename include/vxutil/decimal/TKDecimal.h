@@ -29,7 +29,10 @@ public:
 
     TKDecimal() = default;  // zero
     // A scale outside 0..28 reports "[POWRANGE]" and gives the bad value.
-    TKDecimal(std::int32_t high, std::uint32_t middle, std::uint32_t low, int scale);
+    TKDecimal(std::int32_t high, std::uint32_t middle, std::uint32_t low, int scale)
+        : m_nHigh(high), m_nMiddle(middle), m_nLow(low), m_nScale(scale) {
+        if (scale < 0 || scale > kMaxScale) *this = OutOfRange(scale);
+    }
     static TKDecimal FromInteger(std::int64_t value);
     // The mantissa with high word -2147483648 and zero low words: the result of an overflow.
     static TKDecimal BadValue();
@@ -38,7 +41,7 @@ public:
     std::uint32_t GetMiddle() const { return m_nMiddle; }
     std::uint32_t GetLow() const { return m_nLow; }
     int GetScale() const { return m_nScale; }
-    bool IsBad() const;
+    bool IsBad() const { return m_nHigh == kBadHigh && m_nMiddle == 0 && m_nLow == 0; }
     bool IsNegative() const { return m_nHigh < 0; }
 
     // Conversions; a result that does not fit exactly is rounded or, when too large, the bad
@@ -66,6 +69,11 @@ public:
     std::string asString() const;
 
 private:
+    static constexpr std::int32_t kBadHigh = -2147483647 - 1;
+
+    // Reports a scale outside 0..28 and gives the bad value.
+    static TKDecimal OutOfRange(int scale);
+
     std::int32_t m_nHigh = 0;
     std::uint32_t m_nMiddle = 0;
     std::uint32_t m_nLow = 0;
