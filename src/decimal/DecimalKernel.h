@@ -7,6 +7,9 @@
 // The result is "inexact" when a dropped digit was not zero and "overflow" when not even the
 // integral part fits.
 //
+// The common cases whose exact result surely fits take a quick path first, on the mantissa's
+// two's-complement form (Signed), and leave everything else to the general operations.
+//
 // The kernel is written once over its 128-bit type U: the compiler's unsigned __int128 where
 // there is one, Portable128 elsewhere (or when VXUTIL_DECIMAL_PORTABLE is defined, to try the
 // portable path on a compiler that has both). Both must give identical results.
@@ -39,30 +42,84 @@ struct Number {
     int scale = 0;
 };
 
+// The same number as its two's-complement mantissa sign-extended to U. U wraps like a signed
+// type, so sums and products of these values are those of the numbers while the true results
+// stay within 127 bits, and no sign needs handling: the form of the quick common cases.
+template <class U>
+struct Signed {
+    U value = 0;
+    int scale = 0;
+};
+
 template <class U>
 class Kernel {
 public:
     using Num = Number<U>;
+    using Sig = Signed<U>;
 
     // The largest magnitude: 2^95 - 1. (-2^95 is the mantissa's "bad value".)
     static U MaxMagnitude() { return (U(1) << 95) - U(1); }
 
     // The two's-complement mantissa words, most significant (signed) first.
+    static Sig SignedFromWords(std::int32_t high, std::uint32_t middle, std::uint32_t low,
+                               int scale) {
+        const auto extended = static_cast<std::uint64_t>(static_cast<std::int64_t>(high));
+        return {(U(extended) << 64) | U((static_cast<std::uint64_t>(middle) << 32) | low), scale};
+    }
+    static void ToWords(const Sig& number, std::int32_t& high, std::uint32_t& middle,
+                        std::uint32_t& low) {
+        high = static_cast<std::int32_t>(
+            static_cast<std::uint32_t>(static_cast<std::uint64_t>(number.value >> 64)));
+        middle = static_cast<std::uint32_t>(static_cast<std::uint64_t>(number.value >> 32));
+        low = static_cast<std::uint32_t>(static_cast<std::uint64_t>(number.value));
+    }
     static Num FromWords(std::int32_t high, std::uint32_t middle, std::uint32_t low, int scale) {
-        U pattern = (U(static_cast<std::uint32_t>(high)) << 64) | (U(middle) << 32) | U(low);
-        Num number;
-        number.scale = scale;
-        number.negative = high < 0;
-        number.magnitude = number.negative ? (U(1) << 96) - pattern : pattern;
-        return number;
+        return FromSigned(SignedFromWords(high, middle, low, scale));
     }
     static void ToWords(const Num& number, std::int32_t& high, std::uint32_t& middle,
                         std::uint32_t& low) {
-        U pattern = number.negative ? (U(1) << 96) - number.magnitude : number.magnitude;
-        high = static_cast<std::int32_t>(
-            static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern >> 64) & 0xFFFFFFFFu));
-        middle = static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern >> 32));
-        low = static_cast<std::uint32_t>(static_cast<std::uint64_t>(pattern));
+        ToWords(ToSigned(number), high, middle, low);
+    }
+
+    static Num FromSigned(const Sig& number) {
+        Num result;
+        result.negative = (number.value >> 127) != U(0);
+        result.magnitude = result.negative ? U(0) - number.value : number.value;
+        result.scale = number.scale;
+        return result;
+    }
+    static Sig ToSigned(const Num& number) {
+        return {number.negative ? U(0) - number.magnitude : number.magnitude, number.scale};
+    }
+
+    // The quick common cases: the exact result when it surely fits as it is, else false and
+    // the general operation decides. The operands are not the bad value.
+    static bool QuickAdd(const Sig& a, const Sig& b, Sig& result) {
+        // As in Add: places that differ by at most nine align within 127 bits.
+        const int shift = a.scale - b.scale;
+        if (shift < -9 || shift > 9) return false;
+        U left = a.value, right = b.value;
+        if (shift < 0) left = left * U(Pow10(-shift));
+        if (shift > 0) right = right * U(Pow10(shift));
+        return Exactly(left + right, std::max(a.scale, b.scale), result);
+    }
+    static bool QuickSubtract(const Sig& a, const Sig& b, Sig& result) {
+        return QuickAdd(a, {U(0) - b.value, b.scale}, result);
+    }
+    static bool QuickMultiply(const Sig& a, const Sig& b, Sig& result) {
+        // Two factors within 64 bits make a product within 127 bits.
+        if (!WithinInt64(a.value) || !WithinInt64(b.value)) return false;
+        return Exactly(a.value * b.value, a.scale + b.scale, result);
+    }
+    // A division that comes out even, within 64 bits, keeps the places of a.scale - b.scale.
+    static bool QuickDivide(const Sig& a, const Sig& b, Sig& result) {
+        if (a.scale < b.scale || b.value == U(0) || !WithinInt64(a.value) || !WithinInt64(b.value))
+            return false;
+        const std::int64_t dividend = ToInt64(a.value), divisor = ToInt64(b.value);
+        // The one quotient beyond 64 bits: -2^63 / -1.
+        if (dividend == INT64_MIN || dividend % divisor != 0) return false;
+        result = {FromInt64(dividend / divisor), a.scale - b.scale};
+        return true;
     }
 
     static Outcome Add(const Num& a, const Num& b, Num& result) {
@@ -185,6 +242,24 @@ private:
         int digit = -1;
         bool sticky = false;
     };
+
+    static bool WithinInt64(U value) { return ((value + (U(1) << 63)) >> 64) == U(0); }
+    static std::int64_t ToInt64(U value) {
+        return static_cast<std::int64_t>(static_cast<std::uint64_t>(value));
+    }
+    static U FromInt64(std::int64_t value) {
+        const U bits(static_cast<std::uint64_t>(value));
+        return value < 0 ? bits - (U(1) << 64) : bits;
+    }
+
+    // Stores the value when it is a mantissa, -(2^95 - 1) to 2^95 - 1: moved up by 2^95 - 1,
+    // exactly those values lie in 0 to 2^96 - 2, and every other one (also a negative one,
+    // which wraps) lies above.
+    static bool Exactly(U value, int scale, Sig& result) {
+        if (scale > kMaxScale || value + MaxMagnitude() > (MaxMagnitude() << 1)) return false;
+        result = {value, scale};
+        return true;
+    }
 
     // left = (left with its sign) + (right with its sign), as a magnitude; returns its sign.
     template <class T>

@@ -12,17 +12,27 @@ namespace {
 
 using Kernel = vx::decimal::Kernel<vx::decimal::Native128>;
 using Number = Kernel::Num;
+using Signed = Kernel::Sig;
 using vx::decimal::Outcome;
 
-Number ToNumber(const TKDecimal& value) {
-    return Kernel::FromWords(value.GetHigh(), value.GetMiddle(), value.GetLow(), value.GetScale());
+Signed ToSigned(const TKDecimal& value) {
+    return Kernel::SignedFromWords(value.GetHigh(), value.GetMiddle(), value.GetLow(),
+                                   value.GetScale());
 }
 
-TKDecimal FromNumber(const Number& number) {
+Number ToNumber(const TKDecimal& value) {
+    return Kernel::FromSigned(ToSigned(value));
+}
+
+TKDecimal FromSigned(const Signed& number) {
     std::int32_t high = 0;
     std::uint32_t middle = 0, low = 0;
     Kernel::ToWords(number, high, middle, low);
     return TKDecimal(high, middle, low, number.scale);
+}
+
+TKDecimal FromNumber(const Number& number) {
+    return FromSigned(Kernel::ToSigned(number));
 }
 
 TKStatus Store(Outcome outcome, const Number& number, TKDecimal& result) {
@@ -74,15 +84,29 @@ const Faults& FaultsOf(Operation operation) {
     return kFaults[static_cast<int>(operation)];
 }
 
-TKStatus Apply(Outcome (*compute)(const Number&, const Number&, Number&), Operation operation,
-               const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
+// The operations that need more than their quick common case; out of line, so that the quick
+// case keeps its numbers in registers.
+template <Outcome (*compute)(const Number&, const Number&, Number&)>
+[[gnu::noinline]] TKStatus Compute(Operation operation, const Signed& a, const Signed& b,
+                                   TKDecimal& result) {
+    Number number;
+    const TKStatus status =
+        Store(compute(Kernel::FromSigned(a), Kernel::FromSigned(b), number), number, result);
+    return status == TKStatus::kExact ? status : FaultsOf(operation).Report(status);
+}
+
+template <bool (*quick)(const Signed&, const Signed&, Signed&),
+          Outcome (*compute)(const Number&, const Number&, Number&)>
+TKStatus Apply(Operation operation, const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
     if (a.IsBad() || b.IsBad()) {
         result = TKDecimal::BadValue();
         return TKStatus::kNotANumber;
     }
-    Number number;
-    const TKStatus status = Store(compute(ToNumber(a), ToNumber(b), number), number, result);
-    return status == TKStatus::kExact ? status : FaultsOf(operation).Report(status);
+    const Signed x = ToSigned(a), y = ToSigned(b);
+    Signed exact;
+    if (!quick(x, y, exact)) return Compute<compute>(operation, x, y, result);
+    result = FromSigned(exact);
+    return TKStatus::kExact;
 }
 
 bool AllDigits(const std::string& text) {
@@ -187,19 +211,19 @@ TKDecimalPortable TKDecimal::ToPortable() const {
 }
 
 TKStatus TKDecimal::Add(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Add, Operation::kAdd, a, b, result);
+    return Apply<Kernel::QuickAdd, Kernel::Add>(Operation::kAdd, a, b, result);
 }
 
 TKStatus TKDecimal::Subtract(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Subtract, Operation::kSubtract, a, b, result);
+    return Apply<Kernel::QuickSubtract, Kernel::Subtract>(Operation::kSubtract, a, b, result);
 }
 
 TKStatus TKDecimal::Multiply(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Multiply, Operation::kMultiply, a, b, result);
+    return Apply<Kernel::QuickMultiply, Kernel::Multiply>(Operation::kMultiply, a, b, result);
 }
 
 TKStatus TKDecimal::Divide(const TKDecimal& a, const TKDecimal& b, TKDecimal& result) {
-    return Apply(Kernel::Divide, Operation::kDivide, a, b, result);
+    return Apply<Kernel::QuickDivide, Kernel::Divide>(Operation::kDivide, a, b, result);
 }
 
 TKDecimal TKDecimal::Round(int places) const {
