@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <type_traits>
 
+#include "foundation/Number32.h"
 #include "foundation/qualifier/NumericValue.h"
 #include "foundation/qualifier/QualifierCodes.h"
 #include "foundation/value/EncodedFields.h"
@@ -139,12 +140,16 @@ bool CVXArithOpStruct::Encode(CGNString& out) const {
     CGNString left, right;
     if (!m_right.Encode(right)) return false;
     const auto code = static_cast<unsigned>(vx::qualifier::EncodedArithmetic(m_nOperation));
-    if (m_nOperation == VX_ARITH_OP_NEGATE) {
-        out.Format("%u\\%s", code, right.c_str());
-        return true;
+    const bool negate = m_nOperation == VX_ARITH_OP_NEGATE;  // has no left operand
+    if (!negate && !m_left.Encode(left)) return false;
+    out.Empty();
+    vx::number32::AppendUnsigned(out, code);
+    out += '\\';
+    if (!negate) {
+        out += left.c_str();
+        out += '\\';
     }
-    if (!m_left.Encode(left)) return false;
-    out.Format("%u\\%s\\%s", code, left.c_str(), right.c_str());
+    out += right.c_str();
     return true;
 }
 

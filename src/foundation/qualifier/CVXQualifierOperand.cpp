@@ -156,11 +156,15 @@ void CVXQualifierOperand::ToText(CGNString& out) const {
 }
 
 bool CVXQualifierOperand::Encode(CGNString& out) const {
-    out.Format("%u\\", static_cast<unsigned>(vx::qualifier::EncodedKind(m_nKind)));
+    out.Empty();
+    vx::number32::AppendUnsigned(out, vx::qualifier::EncodedKind(m_nKind));
+    out += '\\';
     CGNString part;
     if (IsField()) {
-        part.Format("%lu", static_cast<unsigned long>(m_nFieldId));
-    } else if (m_nKind == VX_VALUE) {
+        vx::number32::AppendUnsigned(out, m_nFieldId);
+        return true;
+    }
+    if (m_nKind == VX_VALUE) {
         if (!m_value.GetEncodedText(part)) return false;
     } else if (m_nKind == VX_ARITHMETIC) {
         if (!m_pArith->Encode(part)) return false;

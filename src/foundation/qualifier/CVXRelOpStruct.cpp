@@ -1,5 +1,6 @@
 #include "vxutil/foundation/CVXRelOpStruct.h"
 
+#include "foundation/Number32.h"
 #include "foundation/qualifier/LikePattern.h"
 #include "foundation/qualifier/NumericValue.h"
 #include "foundation/qualifier/QualifierCodes.h"
@@ -61,8 +62,12 @@ void CVXRelOpStruct::ToText(CGNString& out) const {
 bool CVXRelOpStruct::Encode(CGNString& out) const {
     CGNString left, right;
     if (!m_left.Encode(left) || !m_right.Encode(right)) return false;
-    out.Format("%u\\%s\\%s", static_cast<unsigned>(vx::qualifier::EncodedRelation(m_nOperation)),
-               left.c_str(), right.c_str());
+    out.Empty();
+    vx::number32::AppendUnsigned(out, vx::qualifier::EncodedRelation(m_nOperation));
+    out += '\\';
+    out += left.c_str();
+    out += '\\';
+    out += right.c_str();
     return true;
 }
 
