@@ -73,8 +73,8 @@ void CVXValueList::ToText(CGNString& out) const {
 bool CVXValueList::GetEncodedText(CGNString& out) const {
     out.Empty();
     vx::definition::WriteUnsigned(out, static_cast<std::uint32_t>(GetCount()));
+    CGNString text;
     for (int i = 0; i < GetCount(); ++i) {
-        CGNString text;
         if (!GetValue(i)->GetEncodedText(text)) return false;
         out += text;
         out += "\\";
@@ -86,8 +86,12 @@ bool CVXValueList::Decode(const char*& cursor) {
     std::uint32_t count = 0;
     if (!vx::definition::ReadUnsigned(cursor, count)) return false;
     for (std::uint32_t i = 0; i < count; ++i) {
-        CVXValueStruct value;
-        if (cursor == nullptr || !value.Decode(cursor) || !AddValue(value)) return false;
+        // Read in place: the list keeps the value that was read, not a copy of it.
+        auto* value = new (std::nothrow) CVXValueStruct;
+        if (value == nullptr || cursor == nullptr || !value->Decode(cursor) || !AddItem(value)) {
+            delete value;
+            return false;
+        }
     }
     vx::definition::SkipLineFeed(cursor);
     return true;

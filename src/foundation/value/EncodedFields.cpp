@@ -2,20 +2,21 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "foundation/Number32.h"
 #include "vxutil/gnrt/MultiByte.h"
 
 namespace vx::encoded {
 
-CGNString ClientText(const char* text, bool lineFeeds) {
-    std::string bytes = text != nullptr ? text : "";
+CGNString ClientText(std::string_view text, bool lineFeeds) {
+    std::string bytes(text);
     if (lineFeeds) {
         for (char& c : bytes) {
             if (c == '\x01') c = '\n';
         }
     }
-    CGNString client(bytes);
+    CGNString client(std::move(bytes));
     client.ClientFormat();
     return client;
 }

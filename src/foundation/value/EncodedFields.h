@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "vxutil/gnrt/CGNString.h"
 
@@ -10,7 +11,7 @@ namespace vx::encoded {
 
 // Text from the server in the client's form: with `lineFeeds` the 0x01 bytes that character
 // and attachment texts carry for line feeds become line feeds; then CGNString::ClientFormat.
-CGNString ClientText(const char* text, bool lineFeeds);
+CGNString ClientText(std::string_view text, bool lineFeeds);
 
 // Moves past the next backslash, or to the end of the text when none follows.
 void SkipField(const char*& cursor);

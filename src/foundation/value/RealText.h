@@ -11,9 +11,12 @@ namespace vx::value {
 // current numeric locale.
 CGNString FormatReal(double value, int precision, bool general);
 
+// The encoded text of a real number: FormatReal(value, -1, true) in the "C" numeric locale.
+CGNString FormatClassicReal(double value);
+
 // strtod in the "C" numeric locale, whatever the user's locale: how every real number is read
-// from text. Switching the locale costs more than the conversion, so it is only switched when
-// the current one does not already use the point.
+// from text. Switching the locale costs more than the conversion, so it is only switched, here
+// and for FormatClassicReal, when the current one does not already use the point.
 double ParseReal(const char* text, char** end);
 
 }  // namespace vx::value

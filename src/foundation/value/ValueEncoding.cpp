@@ -1,11 +1,12 @@
 // The encoded text of a value, both ways. Real numbers are written and read in the "C"
 // numeric locale, whatever the user's locale.
 #include <cstdlib>
-#include <cstring>
 
+#include <string_view>
+
+#include "foundation/Number32.h"
 #include "foundation/value/EncodedFields.h"
 #include "foundation/value/RealText.h"
-#include "vxutil/decimal/NumericLocaleScope.h"
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
 #include "vxutil/gnrt/MultiByte.h"
@@ -16,20 +17,20 @@ using vx::encoded::ClientText;
 using vx::encoded::ReadLong;
 using vx::encoded::ReadUnsignedLong;
 using vx::encoded::SkipField;
+using vx::number32::AppendSigned;
+using vx::number32::AppendUnsigned;
 
 // A character count, a backslash, that many characters and a closing backslash (or the end).
-bool ReadCounted(const char*& cursor, CGNString& text) {
+bool ReadCounted(const char*& cursor, std::string_view& text) {
     std::uint32_t count = 0;
     if (!ReadUnsignedLong(cursor, count)) return false;
     const char* start = cursor;
-    std::size_t available = std::strlen(cursor);
     for (std::uint32_t i = 0; i < count; ++i) {
-        std::size_t length = vx::mb::CharLength(cursor, available);
-        if (length == 0) return false;
-        cursor += length;
-        available -= length;
+        if (*cursor == '\0') return false;
+        // No character is longer than this, and none runs over the terminating zero.
+        cursor += vx::mb::CharLength(cursor, 4);
     }
-    text = CGNString(start, static_cast<std::size_t>(cursor - start));
+    text = std::string_view(start, static_cast<std::size_t>(cursor - start));
     if (*cursor == '\\') {
         ++cursor;
     } else if (*cursor != '\0') {
@@ -41,40 +42,40 @@ bool ReadCounted(const char*& cursor, CGNString& text) {
 }  // namespace
 
 bool CVXValueStruct::GetEncodedText(CGNString& out) const {
-    out.Format("%u", static_cast<unsigned>(m_value.dataType));
-    CGNString value;
+    out.Empty();
+    AppendUnsigned(out, m_value.dataType);
     switch (m_value.dataType) {
         case VX_DATA_TYPE_NULL:
             return true;
         case VX_DATA_TYPE_KEYWORD:
-            value.Format("\\%d", static_cast<int>(m_value.u.intVal));
-            break;
         case VX_DATA_TYPE_INTEGER:
         case VX_DATA_TYPE_TIME:
-            value.Format("\\%ld", static_cast<long>(m_value.u.intVal));
-            break;
-        case VX_DATA_TYPE_REAL: {
-            NumericLocaleScope classic;
-            value = CGNString("\\") + vx::value::FormatReal(m_value.u.realVal, -1, true);
-            break;
-        }
+            out += '\\';
+            AppendSigned(out, m_value.u.intVal);
+            return true;
+        case VX_DATA_TYPE_REAL:
+            out += '\\';
+            out += vx::value::FormatClassicReal(m_value.u.realVal);
+            return true;
         case VX_DATA_TYPE_CHAR:
         case VX_DATA_TYPE_DIARY:
         case VX_DATA_TYPE_DECIMAL:
         case VX_DATA_TYPE_ATTACH:
-            value.Format("\\%d\\%s", static_cast<int>(m_strText.CharCount()), m_strText.c_str());
-            break;
+            out += '\\';
+            AppendUnsigned(out, static_cast<std::uint32_t>(m_strText.CharCount()));
+            out += '\\';
+            out += m_strText.c_str();
+            return true;
         case VX_DATA_TYPE_ENUM:
         case VX_DATA_TYPE_BITMASK:
         case VX_DATA_TYPE_ULONG:
-            value.Format("\\%lu", static_cast<unsigned long>(m_value.u.ulongVal));
-            break;
+            out += '\\';
+            AppendUnsigned(out, m_value.u.ulongVal);
+            return true;
         default:
             GN_ASSERT(!"value without an encoded text");
             return false;
     }
-    out += value;
-    return true;
 }
 
 bool CVXValueStruct::Decode(const char*& cursor) {
@@ -84,6 +85,7 @@ bool CVXValueStruct::Decode(const char*& cursor) {
     if (*cursor == '\0' && type != VX_DATA_TYPE_NULL) return false;
     std::int32_t number = 0;
     std::uint32_t unsignedNumber = 0;
+    std::string_view counted;
     CGNString text;
     switch (type) {
         case VX_DATA_TYPE_NULL:
@@ -118,8 +120,8 @@ bool CVXValueStruct::Decode(const char*& cursor) {
         case VX_DATA_TYPE_DIARY:
         case VX_DATA_TYPE_ATTACH:
         case VX_DATA_TYPE_DECIMAL:
-            if (!ReadCounted(cursor, text)) return false;
-            text = ClientText(text.c_str(), type != VX_DATA_TYPE_DECIMAL);
+            if (!ReadCounted(cursor, counted)) return false;
+            text = ClientText(counted, type != VX_DATA_TYPE_DECIMAL);
             if (type == VX_DATA_TYPE_ATTACH) {
                 SetAttachment(text.c_str(), 0, 0, 0);
             } else {
