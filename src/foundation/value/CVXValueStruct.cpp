@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "vxutil/gnrt/CGNAssert.h"
 
@@ -116,7 +117,7 @@ void CVXValueStruct::SetText(std::uint32_t type, const char* text) {
     CGNString copy(text != nullptr ? text : "");  // `text` may be this value's own text
     Release();
     m_value.dataType = type;
-    m_strText = copy;
+    m_strText = std::move(copy);
 }
 
 void CVXValueStruct::SetChar(const char* text) {

@@ -22,6 +22,10 @@ CGNString ClientText(std::string_view text, bool lineFeeds) {
 }
 
 void SkipField(const char*& cursor) {
+    if (*cursor == '\\') {  // the common case: the field's number ends at its backslash
+        ++cursor;
+        return;
+    }
     const char* backslash = vx::mb::FindChar(cursor, '\\');
     cursor = backslash != nullptr ? backslash + 1 : cursor + std::strlen(cursor);
 }

@@ -86,7 +86,6 @@ bool CVXValueStruct::Decode(const char*& cursor) {
     std::int32_t number = 0;
     std::uint32_t unsignedNumber = 0;
     std::string_view counted;
-    CGNString text;
     switch (type) {
         case VX_DATA_TYPE_NULL:
             SetNull();
@@ -121,11 +120,12 @@ bool CVXValueStruct::Decode(const char*& cursor) {
         case VX_DATA_TYPE_ATTACH:
         case VX_DATA_TYPE_DECIMAL:
             if (!ReadCounted(cursor, counted)) return false;
-            text = ClientText(counted, type != VX_DATA_TYPE_DECIMAL);
             if (type == VX_DATA_TYPE_ATTACH) {
-                SetAttachment(text.c_str(), 0, 0, 0);
-            } else {
-                SetText(type, text.c_str());
+                SetAttachment(ClientText(counted, true).c_str(), 0, 0, 0);
+            } else {  // SetText, without copying the text once more
+                Release();
+                m_value.dataType = type;
+                m_strText = ClientText(counted, type != VX_DATA_TYPE_DECIMAL);
             }
             return true;
         case VX_DATA_TYPE_BYTES:
