@@ -27,6 +27,13 @@ char AsciiLower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
+std::string Folded(std::string_view name) {
+    std::string folded(name);
+    for (char& c : folded)
+        c = AsciiLower(c);
+    return folded;
+}
+
 // Only ASCII letters fold: names in other scripts compare byte for byte.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
@@ -97,6 +104,7 @@ ProfileDocument ProfileDocument::Parse(std::string_view bytes) {
             ParseLine(std::string(bytes.substr(start, end - start)), std::string(ending)));
         start = end + ending.size();
     }
+    document.IndexSections();
     return document;
 }
 
@@ -139,11 +147,15 @@ std::string ProfileDocument::Serialize() const {
 }
 
 std::size_t ProfileDocument::FindSection(std::string_view section) const {
-    section = Trim(section);
+    const auto found = m_sections.find(Folded(Trim(section)));
+    return found == m_sections.end() ? kNone : found->second;
+}
+
+void ProfileDocument::IndexSections() {
+    m_sections.clear();
     for (std::size_t i = 0; i < m_lines.size(); ++i)
-        if (m_lines[i].kind == LineKind::Section && EqualsIgnoringCase(m_lines[i].name, section))
-            return i;
-    return kNone;
+        if (m_lines[i].kind == LineKind::Section)
+            m_sections.try_emplace(Folded(m_lines[i].name), i);
 }
 
 std::size_t ProfileDocument::SectionEnd(std::size_t header) const {
@@ -199,6 +211,7 @@ void ProfileDocument::Insert(std::size_t at, std::string text) {
     if (at > 0 && m_lines[at - 1].ending.empty()) m_lines[at - 1].ending = m_newLine;
     m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(at),
                    ParseLine(std::move(text), m_newLine));
+    IndexSections();
 }
 
 bool ProfileDocument::SetValue(std::string_view section, std::string_view key,
@@ -234,6 +247,7 @@ bool ProfileDocument::RemoveKey(std::string_view section, std::string_view key) 
         m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(line));
         removed = true;
     }
+    if (removed) IndexSections();
     return removed;
 }
 
@@ -244,6 +258,7 @@ bool ProfileDocument::RemoveSection(std::string_view section) {
         m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(header),
                       m_lines.begin() + static_cast<std::ptrdiff_t>(SectionEnd(header)));
         removed = true;
+        IndexSections();
     }
     return removed;
 }

@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/file/TextEncoding.h"
@@ -71,8 +72,11 @@ private:
     std::size_t SectionEnd(std::size_t header) const;
     std::size_t FindKey(std::size_t header, std::string_view key) const;
     void Insert(std::size_t at, std::string text);
+    void IndexSections();
 
     std::vector<Line> m_lines;
+    // Section name with ASCII letters folded -> the line of its first header.
+    std::unordered_map<std::string, std::size_t> m_sections;
     std::string m_newLine = "\r\n";  // for lines we add: the file's first line ending
     TextEncoding m_encoding = TextEncoding::Plain;
     bool m_faithful = true;  // the bytes read can be written back as they were

@@ -86,7 +86,13 @@ bool RegistryDocument::ToBytes(std::string& bytes, std::string& why) const {
 }
 
 const RegistryValue* RegistryDocument::Find(std::string_view key, std::string_view name) const {
-    const auto found = m_values.find({FoldKey(key), FoldCase(name)});
+    return FindFolded(FoldKey(key), FoldCase(name));
+}
+
+const RegistryValue* RegistryDocument::FindFolded(std::string_view foldedKey,
+                                                  std::string_view foldedName) const {
+    const auto found =
+        m_values.find(std::pair<std::string_view, std::string_view>(foldedKey, foldedName));
     return found == m_values.end() ? nullptr : &found->second;
 }
 

@@ -26,8 +26,16 @@ namespace vx::registry {
 
 class RegistryDocument {
 public:
-    // Folded key path and folded name -> the value in force.
-    using ValueMap = std::map<std::pair<std::string, std::string>, RegistryValue>;
+    // Folded key path and folded name -> the value in force; looked up without copies.
+    struct KeyNameLess {
+        using is_transparent = void;
+        template <class A, class B>
+        bool operator()(const A& a, const B& b) const {
+            return std::pair<std::string_view, std::string_view>(a.first, a.second) <
+                   std::pair<std::string_view, std::string_view>(b.first, b.second);
+        }
+    };
+    using ValueMap = std::map<std::pair<std::string, std::string>, RegistryValue, KeyNameLess>;
 
     // Never fails: a truncated or binary file gives the lines that make sense.
     static RegistryDocument FromBytes(std::string_view bytes);
@@ -37,6 +45,8 @@ public:
 
     // The value in force, or null when absent.
     const RegistryValue* Find(std::string_view key, std::string_view name) const;
+    // The same for a key path and name already folded (FoldCase(NormalizeKeyPath(key))).
+    const RegistryValue* FindFolded(std::string_view foldedKey, std::string_view foldedName) const;
     // Sets a value, keeping the spelling of an existing key and name; false when the value was
     // already so and nothing changed.
     bool Set(std::string_view key, std::string_view name, const RegistryValue& value);
@@ -44,7 +54,6 @@ public:
     bool Remove(std::string_view key, std::string_view name);
 
     const std::vector<RegistryLine>& lines() const { return m_lines; }
-    const ValueMap& values() const { return m_values; }
 
 private:
     struct Placement;

@@ -2,6 +2,7 @@
 // copy while the file is unchanged, and every edit is one locked read-modify-write.
 #include "platform/file/SettingsStore.h"
 #include "platform/registry/RegistryDocument.h"
+#include "platform/registry/RegistryPath.h"
 #include "platform/registry/RegistryStore.h"
 #include "vxutil/platform/SettingsHome.h"
 
@@ -20,17 +21,18 @@ std::string FullKey(const std::string& keyPath) {
 
 class DocumentReader : public KeyReader {
 public:
-    DocumentReader(const RegistryDocument* document, std::string key)
-        : m_document(document), m_key(std::move(key)) {}
+    DocumentReader(const RegistryDocument* document, const std::string& key)
+        : m_document(document), m_foldedKey(FoldCase(NormalizeKeyPath(key))) {}
     bool Read(const std::string& name, RegistryValue& out) const override {
-        const RegistryValue* value = m_document ? m_document->Find(m_key, name) : nullptr;
+        const RegistryValue* value =
+            m_document ? m_document->FindFolded(m_foldedKey, FoldCase(name)) : nullptr;
         if (value) out = *value;
         return value != nullptr;
     }
 
 private:
     const RegistryDocument* m_document;
-    std::string m_key;
+    std::string m_foldedKey;  // folded once for all the reads of an operation
 };
 
 class DocumentEditor : public KeyEditor {
