@@ -2,10 +2,12 @@
 #include "appenv/AppEnvTrace.h"
 #include "appenv/UserRegistry.h"
 #include "vxutil/appenv/CAppEnv.h"
+#include "vxutil/appenv/SettingsLayout.h"
 #include "vxutil/gnrt/FilePath.h"
 #include "vxutil/platform/RApplication.h"
 
 using namespace vx::appenv;
+using namespace vx;
 
 namespace {
 
@@ -31,9 +33,13 @@ int AsStoredFlag(CAppEnv::flag value) {
 
 }  // namespace
 
+CGNString vx::GetMacroPathSetting() {
+    return ProfileString("User", "VXPath");
+}
+
 unsigned CAppEnv::GetMenuDisplayMethod() {
     AppEnvTrace trace("CAppEnv::GetMenuDisplayMethod");
-    return ProfileInt("Menus", "Style", 1);
+    return ProfileInt("Menus", "Style", preference_default::kMenuStyle);
 }
 
 void CAppEnv::SetMenuDisplayMethod(unsigned method) {
@@ -43,8 +49,8 @@ void CAppEnv::SetMenuDisplayMethod(unsigned method) {
 
 void CAppEnv::GetMenuThresholds(unsigned& levelThreshold, unsigned& itemsThreshold) {
     AppEnvTrace trace("CAppEnv::GetMenuThresholds");
-    itemsThreshold = ProfileInt("Menus", "ItemsThreshold", 200);
-    levelThreshold = ProfileInt("Menus", "LevelThreshold", 4);
+    itemsThreshold = ProfileInt("Menus", "ItemsThreshold", preference_default::kItemsThreshold);
+    levelThreshold = ProfileInt("Menus", "LevelThreshold", preference_default::kLevelThreshold);
 }
 
 void CAppEnv::SetMenuThresholds(unsigned levelThreshold, unsigned itemsThreshold) {
@@ -55,7 +61,7 @@ void CAppEnv::SetMenuThresholds(unsigned levelThreshold, unsigned itemsThreshold
 
 int CAppEnv::GetArrowKeyStepSize() {
     AppEnvTrace trace("CAppEnv::GetArrowKeyStepSize");
-    return static_cast<int>(ProfileInt("Move", "StepSize", 10));
+    return static_cast<int>(ProfileInt("Move", "StepSize", preference_default::kStepSize));
 }
 
 void CAppEnv::SetArrowKeyStepSize(int stepSize) {
@@ -65,7 +71,8 @@ void CAppEnv::SetArrowKeyStepSize(int stepSize) {
 
 CAppEnv::flag CAppEnv::ExpandMenuItemsAtStartup() {
     AppEnvTrace trace("CAppEnv::ExpandMenuItemsAtStartup");
-    return static_cast<flag>(ProfileInt("Menus", "OpenListAtStart", 0));
+    return static_cast<flag>(
+        ProfileInt("Menus", "OpenListAtStart", preference_default::kOpenListAtStart));
 }
 
 void CAppEnv::ExpandMenuItemsAtStartup(flag expand) {
@@ -75,7 +82,7 @@ void CAppEnv::ExpandMenuItemsAtStartup(flag expand) {
 
 int CAppEnv::GetMaxInQuery() {
     AppEnvTrace trace("CAppEnv::GetMaxInQuery");
-    return static_cast<int>(ProfileInt("Query", "MaxInQuery", 1000));
+    return static_cast<int>(ProfileInt("Query", "MaxInQuery", preference_default::kMaxInQuery));
 }
 
 void CAppEnv::SetMaxInQuery(int maxInQuery) {
@@ -85,7 +92,8 @@ void CAppEnv::SetMaxInQuery(int maxInQuery) {
 
 CAppEnv::flag CAppEnv::GetIsLimitedQuery() {
     AppEnvTrace trace("CAppEnv::GetIsLimitedQuery");
-    return static_cast<flag>(ProfileInt("Query", "LimitItemsReturn", 1));
+    return static_cast<flag>(
+        ProfileInt("Query", "LimitItemsReturn", preference_default::kLimitItemsReturn));
 }
 
 void CAppEnv::SetIsLimitedQuery(flag limited) {
@@ -95,30 +103,32 @@ void CAppEnv::SetIsLimitedQuery(flag limited) {
 
 int CAppEnv::GetCloseAfterSubmitAction() {
     AppEnvTrace trace("CAppEnv::GetCloseAfterSubmitAction");
-    return static_cast<int>(ProfileInt("Submit", "CloseAfterSubmit", 0));
+    return static_cast<int>(
+        ProfileInt("Submit", "CloseAfterSubmit", preference_default::kCloseAfterSubmit));
 }
 
 unsigned long CAppEnv::GetRPCTimeoutNormal() {
     AppEnvTrace trace("CAppEnv::GetRPCTimeoutNormal");
-    return ProfileInt("Network", "RPCTimeout Normal", 0);
+    return ProfileInt("Network", "RPCTimeout Normal", preference_default::kRpcTimeout);
 }
 
 unsigned long CAppEnv::GetRPCTimeoutLong() {
     AppEnvTrace trace("CAppEnv::GetRPCTimeoutLong");
-    return ProfileInt("Network", "RPCTimeout Long", 0);
+    return ProfileInt("Network", "RPCTimeout Long", preference_default::kRpcTimeout);
 }
 
 unsigned long CAppEnv::GetRPCTimeoutXLong() {
     AppEnvTrace trace("CAppEnv::GetRPCTimeoutXLong");
-    return ProfileInt("Network", "RPCTimeout Extra Long", 0);
+    return ProfileInt("Network", "RPCTimeout Extra Long", preference_default::kRpcTimeout);
 }
 
 CAppEnv::flag CAppEnv::GetShouldShowLangDLLNotFound() {
     AppEnvTrace trace("CAppEnv::GetShouldShowLangDLLNotFound");
-    long show = 1;
-    if (ReadRegistryNumber(kShowLangDllValue, 1, show)) return show != 0 ? 1 : 0;
+    long show = preference_default::kShowLangDllNotFound;
+    if (ReadRegistryNumber(kShowLangDllValue, show, show)) return show != 0 ? 1 : 0;
     // Clients that cannot use the registry keep the switch in their own profile.
-    return static_cast<flag>(ProfileInt("User", "ShowLangDLLNotFound", 1));
+    return static_cast<flag>(
+        ProfileInt("User", "ShowLangDLLNotFound", preference_default::kShowLangDllNotFound));
 }
 
 void CAppEnv::SetShouldShowLangDLLNotFound(flag show) {
@@ -131,7 +141,7 @@ void CAppEnv::SetShouldShowLangDLLNotFound(flag show) {
 CAppEnv::flag CAppEnv::GetMacroPathList(const CGNString& homeFolder, CGNStringList& paths) {
     AppEnvTrace trace("CAppEnv::GetMacroPathList");
     paths.RemoveAll();
-    paths.Parse(ProfileString("User", "VXPath"), ';');
+    paths.Parse(vx::GetMacroPathSetting(), ';');
     if (paths.IsEmpty()) paths.Add(MakeFilePath(homeFolder, vx::kCommandFolderName));
     return 1;
 }

@@ -3,11 +3,16 @@
 #include <cstdio>
 #include <string>
 
+#include "vxutil/appenv/SettingsLayout.h"
+
 namespace vx::appenv {
 namespace {
 
 // "SOFTWARE" + "Korvel\VXUser\Users", as a normalized key path below HKEY_CURRENT_USER.
-constexpr const char* kUsersKey = "SOFTWARE\\Korvel\\VXUser\\Users";
+const std::string& UsersKey() {
+    static const std::string key = std::string(kUsersKeyRoot) + "\\" + kUsersKeyPath;
+    return key;
+}
 
 std::string EntryName(const char* prefix, unsigned slot) {
     char name[32];
@@ -92,11 +97,11 @@ void UserSlotsEditor::RemoveFolder(unsigned slot) {
 }
 
 void ReadUsers(const std::function<void(const UserSlots&)>& read) {
-    registry::ReadKey(kUsersKey, [&](const registry::KeyReader& key) { read(UserSlots(key)); });
+    registry::ReadKey(UsersKey(), [&](const registry::KeyReader& key) { read(UserSlots(key)); });
 }
 
 bool EditUsers(const std::function<void(UserSlotsEditor&)>& edit) {
-    return registry::EditKey(kUsersKey, [&](registry::KeyEditor& key) {
+    return registry::EditKey(UsersKey(), [&](registry::KeyEditor& key) {
         UserSlotsEditor users(key);
         edit(users);
     });

@@ -6,6 +6,7 @@
 
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
+#include "vxutil/appenv/SettingsLayout.h"
 
 namespace {
 
@@ -43,8 +44,8 @@ protected:
 };
 
 // Runs "delete NAME", "add NAME FOLDER", "home NAME FOLDER", "rename OLD NEW", "last NAME",
-// "find NAME", "default", "list" or "lastpath"; gives the result and what the operation handed
-// out, separated by blanks (a listing as "names|folders").
+// "find NAME", "slot NAME", "default", "list", "lastpath" or "lastname"; gives the result and what
+// the operation handed out, separated by blanks (a listing as "names|folders").
 std::string Apply(const std::string& operation) {
     std::istringstream words(operation);
     std::string verb, first, second;
@@ -59,6 +60,8 @@ std::string Apply(const std::string& operation) {
     if (verb == "find")
         return std::to_string(CAppEnv::FindHomeDirectory(first.c_str(), folder)) + " " +
                folder.str();
+    if (verb == "slot") return std::to_string(vx::UserSlot(first.c_str()));
+    if (verb == "lastname") return std::to_string(vx::GetLastUserName(folder)) + " " + folder.str();
     if (verb == "default")
         return std::to_string(CAppEnv::GetDefaultHomePath(folder)) + " " + folder.str();
     if (verb == "list") {
@@ -106,6 +109,11 @@ TEST_F(UsersTest, SlotsStayDenseAndLookupsFollowThem) {
         {"ann bob=",     "1",        "lastpath",       "1 /h/ann", nullptr,   "1"},
         {"ann bob=",     "2",        "lastpath",       "2 ",       nullptr,   "2"},
         {"ann",          "<absent>", "lastpath",       "-1 ",      nullptr,   "-1"},
+        {"ann bob bob",  "<absent>", "slot bob",       "2",        nullptr,   "<absent>"},
+        {"ann",          "<absent>", "slot zed",       "0",        nullptr,   "<absent>"},
+        {"ann bob",      "2",        "lastname",       "1 bob",    nullptr,   "2"},
+        {"ann",          "<absent>", "lastname",       "0 ",       nullptr,   "-1"},
+        {"ann",          "5",        "lastname",       "0 ",       nullptr,   "5"},
     };
     // clang-format on
     for (const Case& c : cases) {

@@ -32,6 +32,13 @@ public:
     // Writes the run's time stamp and reloads the level mask from the profile.
     void SetTimestamp();
 
+    // The switch and the level mask as the profile keeps them for the runs to come (what a
+    // settings tool changes); non-zero when the profile was written.
+    int WriteSwitch(int value);
+    int WriteStoredLevel(unsigned long level);
+    // The level mask the next run takes: the profile's, else the current one.
+    unsigned long GetStoredLevel() const;
+
     const std::string& GetSection() const { return m_strSection; }
     const std::string& GetTimestampEntry() const { return m_strTimestampEntry; }
     int GetStartNumber() const { return m_nStart; }

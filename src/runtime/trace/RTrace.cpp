@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr const char* kLevelEntry = "Level";
+
 // The application whose profile holds the trace, or null when there is none to write to.
 RApplication* ProfileOwner() {
     RApplication* app = RApplication::Current();
@@ -90,7 +92,25 @@ void RTrace::SetTimestamp() {
     if (m_strTimestampEntry.empty() || app == nullptr) return;
     app->WriteProfileString(m_strSection.c_str(), m_strTimestampEntry.c_str(),
                             LocalTimeText().c_str());
-    m_nLevel = app->GetProfileInt(m_strSection.c_str(), "Level", static_cast<int>(m_nLevel));
+    m_nLevel = GetStoredLevel();
+}
+
+int RTrace::WriteSwitch(int value) {
+    RApplication* app = ProfileOwner();
+    if (m_strSection.empty() || m_strSwitchEntry.empty() || app == nullptr) return 0;
+    return app->WriteProfileInt(m_strSection.c_str(), m_strSwitchEntry.c_str(), value) ? 1 : 0;
+}
+
+int RTrace::WriteStoredLevel(unsigned long level) {
+    RApplication* app = ProfileOwner();
+    if (m_strSection.empty() || app == nullptr) return 0;
+    return app->WriteProfileInt(m_strSection.c_str(), kLevelEntry, static_cast<int>(level)) ? 1 : 0;
+}
+
+unsigned long RTrace::GetStoredLevel() const {
+    const RApplication* app = ProfileOwner();
+    if (m_strSection.empty() || app == nullptr) return m_nLevel;
+    return app->GetProfileInt(m_strSection.c_str(), kLevelEntry, static_cast<int>(m_nLevel));
 }
 
 void RTrace::Clear() {

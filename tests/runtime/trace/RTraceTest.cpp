@@ -31,7 +31,7 @@ protected:
             texts.push_back(app.GetProfileString("Debug", name).str());
         return texts;
     }
-    void SwitchTrace(int on) { app.WriteProfileInt("Debug", "Trace", on); }
+    void SwitchTrace(int on) { EXPECT_EQ(trace.WriteSwitch(on), 1); }
 
     RApplication app{"Demo", "vxtracetest"};
     RTrace trace{1, kAll, "Debug", "Trace", 1};
@@ -90,7 +90,9 @@ TEST_F(RTraceTest, FirstEntryOfARunClearsThePreviousRunUpToItsFirstGap) {
 TEST_F(RTraceTest, LevelIsReloadedAtTheStartOfEachRun) {
     // The entry that opens a run passed the level check with the previous mask, before the
     // run's "Level" was read, so it is written even when that level masks it.
-    app.WriteProfileInt("Debug", "Level", 0x10);
+    EXPECT_EQ(trace.GetStoredLevel(), kAll);  // none stored: the current mask
+    EXPECT_EQ(trace.WriteStoredLevel(0x10), 1);
+    EXPECT_EQ(trace.GetStoredLevel(), 0x10u);
     SwitchTrace(1);
     EXPECT_EQ(trace.Trace("opens the run", 0x01), 1);
     EXPECT_EQ(trace.GetLevel(), 0x10u);
@@ -98,7 +100,7 @@ TEST_F(RTraceTest, LevelIsReloadedAtTheStartOfEachRun) {
     EXPECT_EQ(trace.Trace("kept", 0x10), 1);
     EXPECT_EQ(Entries({"2"}), Texts{"kept"});
 
-    app.WriteProfileInt("Debug", "Level", 0);
+    trace.WriteStoredLevel(0);
     trace.Clear();
     EXPECT_EQ(trace.Trace("opens the next run", 0x10), 1);
     EXPECT_EQ(trace.Trace("masked", kAll), 0);
@@ -119,6 +121,7 @@ TEST_F(RTraceTest, NothingIsWrittenWithoutAnApplicationProfile) {
     RApplication::SetCurrent(&nameless);
     EXPECT_EQ(trace.IsTracing(), 0);
     EXPECT_EQ(trace.Trace("x", kAll), 0);
+    EXPECT_EQ(trace.WriteSwitch(1) + trace.WriteStoredLevel(1), 0);
     RApplication::SetCurrent(nullptr);
     EXPECT_EQ(trace.Trace("x", kAll), 0);
     RApplication::SetCurrent(&app);
