@@ -2,7 +2,7 @@
 # Stage: the native build (gcc, RelWithDebInfo) with the Qt widgets, and every test; the widget
 # tests run offscreen here.
 
-VX_LINUX_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext locales)
+VX_LINUX_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev gettext locales help2man)
 # Installed without their recommendations (a desktop's platform theme among them), so that runs
 # are the same everywhere.
 VX_QT_PACKAGES=(qt6-base-dev fonts-dejavu-core qt6-translations-l10n)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include "Command.h"
 
@@ -30,14 +31,8 @@ int RunSysinfo(Context& context, Args& args);
 std::span<const Command> DirsCommands();
 int RunHex(Context& context, Args& args);
 
-// The registry key that vxenv's "reg" commands work on, below root "SOFTWARE".
-inline constexpr const char* kUsersKeyPath = "Korvel\\VXUser\\Users";
-inline constexpr const char* kRegistryRoot = "SOFTWARE";
-
 // The users the client knows (CAppEnv), for the users, login, paths and servers commands.
 bool IsKnownUser(const std::string& name);
-// The last user that logged in; false when nobody is remembered or the slot has no name.
-bool LastUserName(std::string& name);
 // The home folder of `user` (the last user when empty) into `folder`; on failure reports why and
 // sets `exitCode`.
 bool UserHomeFolder(Context& context, const std::string& user, std::string& folder, int& exitCode);

@@ -44,22 +44,13 @@ const char* StatusName(TKStatus status) {
 }
 
 int Show(Context& context, Args& args) {
-    std::vector<std::string> words;
-    for (std::size_t i = 0; i < args.size(); ++i)
-        words.push_back(args[i]);
+    int code = kOk;
     long long precision = -1;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words[i] != "--precision") continue;
-        if (i + 1 >= words.size() ||
-            !ParseNumber(words[i + 1], -1, TKDecimal::kMaxScale, precision))
-            return context.UsageError("--precision needs a number from -1 to 28");
-        words.erase(words.begin() + static_cast<std::ptrdiff_t>(i),
-                    words.begin() + static_cast<std::ptrdiff_t>(i) + 2);
-        break;
-    }
-    if (words.size() != 1)
-        return context.UsageError(words.empty() ? "missing arguments" : "unexpected arguments");
-    const std::string& text = words[0];
+    const std::string* places = args.Value("--precision");
+    if (places != nullptr && !ParseNumber(*places, -1, TKDecimal::kMaxScale, precision))
+        return context.UsageError("--precision needs a number from -1 to 28");
+    if (!context.CheckCount(args, 1, 1, code)) return code;
+    const std::string& text = args[0];
     MessageCollector quiet;
     std::string display;
     if (!FormatDecimalForDisplay(text, static_cast<int>(precision), false, display))
@@ -87,15 +78,16 @@ int Calc(Context& context, Args& args) {
     TKDecimal a, b, result;
     for (std::size_t i : {std::size_t{0}, std::size_t{2}}) {
         if (TKDecimal::FromText(args[i], i == 0 ? a : b) == TKStatus::kNotANumber)
-            return context.UsageError("'" + args[i] + "' is not a decimal number");
+            return context.Fail("'" + args[i] + "' is not a decimal number");
     }
-    TKStatus status = operation(a, b, result);
+    const TKStatus status = operation(a, b, result);
+    const bool computed = status == TKStatus::kExact || status == TKStatus::kInexact;
     if (context.json()) {
         std::vector<std::string> texts;
         for (const std::string& text : MessageCollector::Texts())
             texts.push_back(JsonString(text));
         context.Print(JsonObject()
-                          .Add("result", result.asString())
+                          .AddRaw("result", computed ? JsonString(result.asString()) : "null")
                           .Add("status", StatusName(status))
                           .AddRaw("messages", JsonArray(texts))
                           .Text());
@@ -104,7 +96,7 @@ int Calc(Context& context, Args& args) {
         for (const std::string& text : MessageCollector::Texts())
             context.Fail(text);
     }
-    return status == TKStatus::kExact || status == TKStatus::kInexact ? kOk : kFailed;
+    return computed ? kOk : kFailed;
 }
 
 constexpr Command kCommands[] = {

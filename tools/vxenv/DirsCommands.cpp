@@ -63,31 +63,15 @@ private:
     RUserPrompt* m_previous;
 };
 
-// Takes "--sep C" out of the words; false (with the exit code) when it is malformed.
-bool TakeSeparator(Context& context, Args& args, char& separator, int& code) {
-    std::vector<std::string> rest;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        if (args[i] != "--sep") {
-            rest.push_back(args[i]);
-            continue;
-        }
-        if (i + 1 >= args.size() || args[i + 1].size() != 1) {
-            code = context.UsageError("--sep needs one character");
-            return false;
-        }
-        separator = args[++i][0];
-    }
-    args = Args(std::move(rest));
-    return true;
-}
-
 int Validate(Context& context, Args& args) {
     int code = kOk;
-    char separator = ';';
-    if (!TakeSeparator(context, args, separator, code) || !context.CheckCount(args, 1, 1, code))
-        return code;
+    const std::string* separator = args.Value("--sep");
+    if (separator != nullptr && separator->size() != 1)
+        return context.UsageError("--sep needs one character");
+    if (!context.CheckCount(args, 1, 1, code)) return code;
     CGNString firstInvalid;
-    const bool valid = RValidatePaths(args[0].c_str(), firstInvalid, separator) != 0;
+    const bool valid = RValidatePaths(args[0].c_str(), firstInvalid,
+                                      separator != nullptr ? (*separator)[0] : ';') != 0;
     if (context.json()) {
         context.Print(
             JsonObject().Add("valid", valid).Add("first_invalid", firstInvalid.view()).Text());
@@ -99,7 +83,7 @@ int Validate(Context& context, Args& args) {
 
 int Create(Context& context, Args& args) {
     int code = kOk;
-    const bool ask = args.TakeFlag("--ask");
+    const bool ask = args.Has("--ask");
     if (!context.CheckCount(args, 1, 1, code)) return code;
     const CGNString path(args[0]);
     if (ask) {
@@ -112,7 +96,7 @@ int Create(Context& context, Args& args) {
 
 int Copy(Context& context, Args& args) {
     int code = kOk;
-    const bool recurse = args.TakeFlag("--recurse");
+    const bool recurse = args.Has("--recurse");
     if (!context.CheckCount(args, 2, 2, code)) return code;
     if (RCopyDirectory(args[0].c_str(), args[1].c_str(), recurse ? 1 : 0)) return kOk;
     return context.Fail(vx::LoadMessageText(kCopyFailedMessage, {args[0], args[1]}).view());

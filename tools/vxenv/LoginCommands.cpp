@@ -14,7 +14,7 @@ constexpr std::size_t kMaxBytes = vx::kNameBufferSize - 1;
 constexpr const char* kMask = "********";
 
 int Show(Context& context, Args& args) {
-    const bool showPassword = args.TakeFlag("--show-password");
+    const bool showPassword = args.Has("--show-password");
     int code = kOk;
     if (!context.CheckCount(args, 0, 0, code)) return code;
     char user[vx::kNameBufferSize] = {};

@@ -24,6 +24,11 @@ int PrintPaths(Context& context, Args& args,
     int code = kOk;
     if (!context.CheckCount(args, 0, 1, code)) return code;
     const CGNString home = args.size() == 1 ? CGNString(args[0]) : CurrentHomeFolder();
+    // Without a home folder the search path would be relative to wherever vxenv runs.
+    if (home.IsEmpty())
+        return context.Fail(
+            "no user has logged in and no default home folder is set: name the "
+            "home folder");
     CGNStringList paths;
     read(home, paths);
     std::vector<std::string> texts;

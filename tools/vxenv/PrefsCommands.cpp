@@ -6,14 +6,18 @@
 #include "Commands.h"
 #include "Json.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/platform/RApplication.h"
+#include "vxutil/appenv/SettingsLayout.h"
 
 namespace vxenv {
 namespace {
 
+// How a preference's value is shown: a number, a flag (0 or 1; true or false in JSON) or text.
+enum class Kind { kNumber, kFlag, kText };
+
 struct Preference {
     std::string_view key;
-    std::string_view def;
+    Kind kind;
+    std::string def;
     std::string (*get)();
     void (*set)(long long value) = nullptr;  // read-only when null
     long long least = 0;
@@ -45,31 +49,43 @@ CAppEnv::flag AsFlag(long long value) {
     return static_cast<CAppEnv::flag>(value != 0);
 }
 
+namespace defaults = vx::preference_default;
+
 const Preference kPreferences[] = {
-    {"menu-style", "1", [] { return Text(CAppEnv::GetMenuDisplayMethod()); },
+    {"menu-style", Kind::kNumber, Text(defaults::kMenuStyle),
+     [] { return Text(CAppEnv::GetMenuDisplayMethod()); },
      [](long long v) { CAppEnv::SetMenuDisplayMethod(static_cast<unsigned>(v)); }, 0, kUnsignedMax},
-    {"items-threshold", "200", [] { return Text(Threshold(false)); },
-     [](long long v) { SetThreshold(false, v); }, 0, kUnsignedMax},
-    {"level-threshold", "4", [] { return Text(Threshold(true)); },
-     [](long long v) { SetThreshold(true, v); }, 0, kUnsignedMax},
-    {"open-list-at-start", "0", [] { return Text(int{CAppEnv::ExpandMenuItemsAtStartup()}); },
+    {"items-threshold", Kind::kNumber, Text(defaults::kItemsThreshold),
+     [] { return Text(Threshold(false)); }, [](long long v) { SetThreshold(false, v); }, 0,
+     kUnsignedMax},
+    {"level-threshold", Kind::kNumber, Text(defaults::kLevelThreshold),
+     [] { return Text(Threshold(true)); }, [](long long v) { SetThreshold(true, v); }, 0,
+     kUnsignedMax},
+    {"open-list-at-start", Kind::kFlag, Text(defaults::kOpenListAtStart),
+     [] { return Text(int{CAppEnv::ExpandMenuItemsAtStartup()}); },
      [](long long v) { CAppEnv::ExpandMenuItemsAtStartup(AsFlag(v)); }, 0, 1},
-    {"step-size", "10", [] { return Text(CAppEnv::GetArrowKeyStepSize()); },
+    {"step-size", Kind::kNumber, Text(defaults::kStepSize),
+     [] { return Text(CAppEnv::GetArrowKeyStepSize()); },
      [](long long v) { CAppEnv::SetArrowKeyStepSize(static_cast<int>(v)); }, kIntMin, kIntMax},
-    {"max-in-query", "1000", [] { return Text(CAppEnv::GetMaxInQuery()); },
+    {"max-in-query", Kind::kNumber, Text(defaults::kMaxInQuery),
+     [] { return Text(CAppEnv::GetMaxInQuery()); },
      [](long long v) { CAppEnv::SetMaxInQuery(static_cast<int>(v)); }, kIntMin, kIntMax},
-    {"limit-items-return", "1", [] { return Text(int{CAppEnv::GetIsLimitedQuery()}); },
+    {"limit-items-return", Kind::kFlag, Text(defaults::kLimitItemsReturn),
+     [] { return Text(int{CAppEnv::GetIsLimitedQuery()}); },
      [](long long v) { CAppEnv::SetIsLimitedQuery(AsFlag(v)); }, 0, 1},
-    {"close-after-submit", "0", [] { return Text(CAppEnv::GetCloseAfterSubmitAction()); }},
-    {"rpc-timeout-normal", "0", [] { return Text(CAppEnv::GetRPCTimeoutNormal()); }},
-    {"rpc-timeout-long", "0", [] { return Text(CAppEnv::GetRPCTimeoutLong()); }},
-    {"rpc-timeout-extra-long", "0", [] { return Text(CAppEnv::GetRPCTimeoutXLong()); }},
-    {"show-lang-dll-not-found", "1",
+    {"close-after-submit", Kind::kNumber, Text(defaults::kCloseAfterSubmit),
+     [] { return Text(CAppEnv::GetCloseAfterSubmitAction()); }},
+    {"rpc-timeout-normal", Kind::kNumber, Text(defaults::kRpcTimeout),
+     [] { return Text(CAppEnv::GetRPCTimeoutNormal()); }},
+    {"rpc-timeout-long", Kind::kNumber, Text(defaults::kRpcTimeout),
+     [] { return Text(CAppEnv::GetRPCTimeoutLong()); }},
+    {"rpc-timeout-extra-long", Kind::kNumber, Text(defaults::kRpcTimeout),
+     [] { return Text(CAppEnv::GetRPCTimeoutXLong()); }},
+    {"show-lang-dll-not-found", Kind::kFlag, Text(defaults::kShowLangDllNotFound),
      [] { return Text(int{CAppEnv::GetShouldShowLangDLLNotFound()}); },
      [](long long v) { CAppEnv::SetShouldShowLangDLLNotFound(AsFlag(v)); }, 0, 1},
     // The raw search path; "paths macro" shows the folders it gives.
-    {"macro-path", "",
-     [] { return RApplication::Current()->GetProfileString("User", "VXPath", "").str(); }},
+    {"macro-path", Kind::kText, "", [] { return vx::GetMacroPathSetting().str(); }},
 };
 
 const Preference* Find(Context& context, const std::string& key, int& exitCode) {
@@ -81,10 +97,23 @@ const Preference* Find(Context& context, const std::string& key, int& exitCode) 
     return nullptr;
 }
 
+// The value as JSON: numbers as numbers, flags as booleans.
+std::string JsonValue(const Preference& preference, const std::string& value) {
+    switch (preference.kind) {
+        case Kind::kNumber:
+            return value;
+        case Kind::kFlag:
+            return value == "0" ? "false" : "true";
+        case Kind::kText:
+            break;
+    }
+    return JsonString(value);
+}
+
 std::string JsonOf(const Preference& preference, const std::string& value) {
     return JsonObject()
         .Add("key", preference.key)
-        .Add("value", value)
+        .AddRaw("value", JsonValue(preference, value))
         .Add("default", value == preference.def)
         .Add("read_only", preference.set == nullptr)
         .Text();
@@ -99,8 +128,8 @@ int List(Context& context, Args& args) {
         if (context.json()) {
             objects.push_back(JsonOf(preference, value));
         } else {
-            context.Print(std::string(preference.key) + "\t" + value +
-                          (value == preference.def ? "\t(default)" : ""));
+            context.PrintFields(
+                {preference.key, value, value == preference.def ? "(default)" : ""});
         }
     }
     if (context.json()) context.Print(JsonArray(objects));

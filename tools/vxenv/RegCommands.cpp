@@ -1,10 +1,14 @@
 // vxenv reg: the values under the users key of the system configuration store.
 #include "Commands.h"
 #include "Json.h"
+#include "vxutil/appenv/SettingsLayout.h"
 #include "vxutil/gnrt/OSConfigReg.h"
 
 namespace vxenv {
 namespace {
+
+using vx::kUsersKeyPath;
+constexpr const char* kRegistryRoot = vx::kUsersKeyRoot;
 
 int Get(Context& context, Args& args) {
     int code = kOk;
@@ -19,7 +23,7 @@ int Get(Context& context, Args& args) {
 }
 
 int Set(Context& context, Args& args) {
-    bool dword = args.TakeFlag("--dword");
+    const bool dword = args.Has("--dword");
     int code = kOk;
     if (!context.CheckCount(args, 2, 2, code)) return code;
     int stored = 0;

@@ -12,8 +12,8 @@ namespace vxenv {
 namespace {
 
 int List(Context& context, Args& args) {
-    const bool all = args.TakeFlag("--all");
-    const bool notifier = args.TakeFlag("--notifier");
+    const bool all = args.Has("--all");
+    const bool notifier = args.Has("--notifier");
     int code = kOk;
     std::string folder;
     if (!context.CheckCount(args, 0, 1, code) ||
@@ -99,9 +99,11 @@ bool ParseServer(const std::string& text, tagSERVERTYPE& server) {
 int Set(Context& context, Args& args) {
     int code = kOk;
     std::string folder;
-    if (!context.CheckCount(args, 1, std::numeric_limits<std::size_t>::max(), code) ||
-        !UserHomeFolder(context, args[0], folder, code))
-        return code;
+    if (!context.CheckCount(args, 1, std::numeric_limits<std::size_t>::max(), code)) return code;
+    // An empty list would empty the user's server file: far more often a forgotten argument
+    // than a wish.
+    if (args.size() == 1) return context.UsageError("name at least one server");
+    if (!UserHomeFolder(context, args[0], folder, code)) return code;
     std::vector<tagSERVERTYPE> records(args.size() - 1);
     ServerTypeList servers;
     for (std::size_t i = 1; i < args.size(); ++i) {

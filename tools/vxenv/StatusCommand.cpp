@@ -33,7 +33,7 @@ int RunStatus(Context& context, Args& args) {
         {"application profile", app.GetProfileLocation()},
     };
     bool tracing = trace.IsTracing() != 0;
-    unsigned int level = app.GetProfileInt(section, "Level", static_cast<int>(trace.GetLevel()));
+    const unsigned long level = trace.GetStoredLevel();
     CGNString stamp = app.GetProfileString(section, trace.GetTimestampEntry().c_str(), "");
 
     if (context.json()) {
@@ -62,7 +62,7 @@ int RunStatus(Context& context, Args& args) {
         context.Print(std::string(store.name) + ": " + store.location +
                       (StoreExists(store.location) ? "" : " (not created yet)"));
     char levelText[16];
-    std::snprintf(levelText, sizeof levelText, "0x%08x", level);
+    std::snprintf(levelText, sizeof levelText, "0x%08lx", level);
     context.Print(std::string("trace: ") + (tracing ? "on" : "off") + ", level " + levelText +
                   (stamp.IsEmpty() ? "" : ", run started " + stamp.str()));
     return kOk;

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "Commands.h"
+#include "vxutil/appenv/SettingsLayout.h"
 #include "vxutil/gnrt/OSConfigReg.h"
 
 #ifdef _WIN32
@@ -16,7 +16,7 @@ constexpr std::string_view kCurrentUser = "HKEY_CURRENT_USER\\";
 
 std::string SystemConfigLocation() {
 #ifdef _WIN32
-    return vx::SystemConfigLocation() + "\\" + kRegistryRoot + "\\" + kUsersKeyPath;
+    return vx::SystemConfigLocation() + "\\" + vx::kUsersKeyRoot + "\\" + vx::kUsersKeyPath;
 #else
     return vx::SystemConfigLocation();
 #endif

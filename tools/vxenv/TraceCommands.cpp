@@ -19,7 +19,7 @@ RTrace& ModuleTrace() {
 int WriteSwitch(Context& context, Args& args, int value) {
     int code = kOk;
     if (!context.CheckCount(args, 0, 0, code)) return code;
-    if (!App().WriteProfileInt(ModuleTrace().GetSection().c_str(), "Trace", value))
+    if (!ModuleTrace().WriteSwitch(value))
         return context.Fail("could not write " + App().GetProfileLocation());
     return kOk;
 }
@@ -37,8 +37,7 @@ int Level(Context& context, Args& args) {
     long long mask = 0;
     if (!ParseNumber(args[0], 0, 0xffffffffLL, mask))
         return context.UsageError("'" + args[0] + "' is not a level mask");
-    int stored = static_cast<int>(static_cast<unsigned int>(mask));
-    if (!App().WriteProfileInt(ModuleTrace().GetSection().c_str(), "Level", stored))
+    if (!ModuleTrace().WriteStoredLevel(static_cast<unsigned long>(mask)))
         return context.Fail("could not write " + App().GetProfileLocation());
     return kOk;
 }

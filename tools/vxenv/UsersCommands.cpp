@@ -1,12 +1,11 @@
 // vxenv users: the client's users, their home folders, the default folder and the last user.
-#include <map>
 #include <string>
 #include <vector>
 
 #include "Commands.h"
 #include "Json.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/gnrt/OSConfigReg.h"
+#include "vxutil/appenv/SettingsLayout.h"
 
 namespace vxenv {
 namespace {
@@ -28,24 +27,6 @@ std::vector<User> ListUsers() {
     return users;
 }
 
-bool ReadSlotName(unsigned slot, std::string& name) {
-    CGNString value;
-    const std::string valueName = "USER" + std::to_string(slot);
-    if (OSGetSystemConfigReg(value, "", kUsersKeyPath, valueName.c_str(), kRegistryRoot) <= 0)
-        return false;
-    name = value.str();
-    return true;
-}
-
-// The slot of each name's first occurrence (the slot whose folder the list shows).
-std::map<std::string, unsigned> FirstSlots() {
-    std::map<std::string, unsigned> slots;
-    std::string name;
-    for (unsigned slot = 1; ReadSlotName(slot, name); ++slot)
-        slots.emplace(name, slot);
-    return slots;
-}
-
 bool CheckName(Context& context, const std::string& name, int& exitCode) {
     if (name.empty() || name.size() > kMaxNameBytes) {
         exitCode = context.UsageError("a user name has 1 to 30 characters");
@@ -57,11 +38,9 @@ bool CheckName(Context& context, const std::string& name, int& exitCode) {
 int List(Context& context, Args& args) {
     int code = kOk;
     if (!context.CheckCount(args, 0, 0, code)) return code;
-    const std::vector<User> users = ListUsers();
-    const auto slots = FirstSlots();
     std::vector<std::string> objects;
-    for (const User& user : users) {
-        const auto slot = slots.count(user.name) ? slots.at(user.name) : 0u;
+    for (const User& user : ListUsers()) {
+        const unsigned slot = vx::UserSlot(user.name);
         if (context.json()) {
             objects.push_back(JsonObject()
                                   .Add("slot", static_cast<long long>(slot))
@@ -69,7 +48,7 @@ int List(Context& context, Args& args) {
                                   .Add("home", user.folder)
                                   .Text());
         } else {
-            context.Print(std::to_string(slot) + "\t" + user.name + "\t" + user.folder);
+            context.PrintFields({std::to_string(slot), user.name, user.folder});
         }
     }
     if (context.json()) context.Print(JsonArray(objects));
@@ -125,9 +104,9 @@ int Last(Context& context, Args& args) {
             return context.Fail("could not store the last user");
         return kOk;
     }
-    std::string name;
-    if (!LastUserName(name)) return context.Fail("no user has logged in yet");
-    context.Print(context.json() ? JsonObject().Add("name", name).Text() : name);
+    CGNString name;
+    if (!vx::GetLastUserName(name)) return context.Fail("no user has logged in yet");
+    context.Print(context.json() ? JsonObject().Add("name", name.view()).Text() : name.str());
     return kOk;
 }
 
@@ -152,16 +131,11 @@ bool IsKnownUser(const std::string& name) {
     return false;
 }
 
-bool LastUserName(std::string& name) {
-    unsigned int slot = 0;
-    char folder[vx::kHomeFolderBufferSize];
-    CAppEnv::GetLastUserAndPath(&slot, folder, sizeof folder);
-    return slot != 0xFFFFFFFFu && ReadSlotName(slot, name) && !name.empty();
-}
-
 bool UserHomeFolder(Context& context, const std::string& user, std::string& folder, int& exitCode) {
-    std::string name = user;
-    if (name.empty() && !LastUserName(name)) {
+    CGNString last;
+    const bool known = !user.empty() || vx::GetLastUserName(last);
+    const std::string name = user.empty() ? last.str() : user;
+    if (!known) {
         exitCode = context.Fail("no user given and no user has logged in yet");
         return false;
     }

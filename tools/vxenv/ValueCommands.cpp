@@ -1,5 +1,7 @@
 // vxenv decode value|qualifier|fields, encode value and qual eval: the encoded texts of values,
 // qualifiers and entry-list field lists, and qualifiers evaluated against given field values.
+#include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -70,7 +72,7 @@ private:
 template <class Decodable>
 bool DecodeWhole(Decodable& object, const std::string& text) {
     const char* cursor = text.c_str();
-    return object.Decode(cursor) && *cursor == '\0';
+    return object.Decode(cursor) && cursor != nullptr && *cursor == '\0';
 }
 
 }  // namespace
@@ -144,11 +146,50 @@ int RunDecodeFields(Context& context, Args& args) {
 
 namespace {
 
+struct Range {
+    long long least;
+    long long most;
+};
+
+// The numbers a value of `type` holds; false for the types that hold no whole number.
+bool RangeOf(std::uint32_t type, Range& range) {
+    switch (type) {
+        case VX_DATA_TYPE_KEYWORD:
+        case VX_DATA_TYPE_INTEGER:
+        case VX_DATA_TYPE_TIME:
+            range = {INT32_MIN, INT32_MAX};
+            return true;
+        case VX_DATA_TYPE_ENUM:
+        case VX_DATA_TYPE_BITMASK:
+        case VX_DATA_TYPE_ULONG:
+            range = {0, UINT32_MAX};
+            return true;
+        default:
+            return false;
+    }
+}
+
+// The value text is read as the client reads typed text: a leading number, the rest ignored (a
+// time may be a date instead). A number the type cannot hold would be cut to one it can, so it is
+// refused here.
+bool Representable(std::uint32_t type, const std::string& text, Range& range) {
+    if (!RangeOf(type, range)) return true;
+    char* end = nullptr;
+    errno = 0;
+    const long long number = std::strtoll(text.c_str(), &end, 10);
+    return end == text.c_str() ||
+           (errno != ERANGE && number >= range.least && number <= range.most);
+}
+
 int EncodeValue(Context& context, Args& args) {
     int code = kOk;
     if (!context.CheckCount(args, 2, 2, code)) return code;
     std::uint32_t type = 0;
     if (!TypeOf(args[0], type)) return context.UsageError("'" + args[0] + "' is not a data type");
+    Range range{};
+    if (!Representable(type, args[1], range))
+        return context.Fail("'" + args[1] + "' is outside the " + NameOfType(type) + " range " +
+                            std::to_string(range.least) + " to " + std::to_string(range.most));
     Quiet quiet;
     CVXValueStruct value;
     CGNString encoded;
@@ -165,24 +206,22 @@ int Eval(Context& context, Args& args) {
     Quiet quiet;
     CVXQualifierStruct qualifier;
     if (!DecodeWhole(qualifier, args[0]))
-        return context.UsageError("'" + args[0] + "' is not an encoded qualifier");
+        return context.Fail("'" + args[0] + "' is not an encoded qualifier");
     CVXFieldValueList fields;
     for (std::size_t i = 1; i < args.size(); ++i) {
         const std::string& pair = args[i];
         const std::size_t equals = pair.find('=');
         long long id = 0;
         CVXValueStruct value;
-        if (equals == std::string::npos ||
-            !ParseNumber(pair.substr(0, equals), 0, 0xFFFFFFFFLL, id) ||
-            !DecodeWhole(value, pair.substr(equals + 1)))
+        if (equals == std::string::npos || !ParseNumber(pair.substr(0, equals), 0, UINT32_MAX, id))
             return context.UsageError("'" + pair + "' is not FIELDID=ENCODEDVALUE");
+        if (!DecodeWhole(value, pair.substr(equals + 1)))
+            return context.Fail("'" + pair.substr(equals + 1) + "' is not an encoded value");
         fields.AddFieldValue(static_cast<std::uint32_t>(id), value);
     }
     bool result = false;
-    if (!qualifier.Evaluate(&fields, result)) {
-        context.Fail("the qualifier cannot be evaluated with these fields");
-        return kUsage;
-    }
+    if (!qualifier.Evaluate(&fields, result))
+        return context.Fail("the qualifier cannot be evaluated with these fields");
     context.Print(context.json() ? JsonObject().Add("result", result).Text()
                                  : (result ? "true" : "false"));
     return result ? kOk : kFailed;
