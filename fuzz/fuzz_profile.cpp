@@ -38,6 +38,10 @@ Request RequestFrom(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    // The bytes as a file: written back exactly as read, or refused.
+    std::string written;
+    std::string why;
+    if (vx::ProfileDocument::FromBytes(bytes).ToBytes(written, why)) Check(written == bytes);
     vx::ProfileDocument document = vx::ProfileDocument::Parse(bytes);
     Check(document.Serialize() == bytes);
 

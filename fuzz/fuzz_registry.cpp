@@ -1,6 +1,6 @@
 // Drives the registry file parser with arbitrary bytes. Besides not crashing, it checks that
-// writing a document out and reading it again changes nothing, and that an edit changes the
-// one value it names and no other.
+// a document either refuses to be written or writes out what it read, that reading it again
+// changes nothing, and that an edit changes the one value it names and no other.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -23,11 +23,18 @@ RegistryDocument::ValueMap::key_type Folded(const std::string& key, const std::s
     return {FoldCase(NormalizeKeyPath(key)), FoldCase(name)};
 }
 
+std::string Bytes(const RegistryDocument& document) {
+    std::string bytes;
+    std::string why;
+    Require(document.ToBytes(bytes, why));
+    return bytes;
+}
+
 // The document after a trip through its bytes; the trip is stable after the first one.
 RegistryDocument Reread(const RegistryDocument& document) {
-    const std::string bytes = document.ToBytes();
+    const std::string bytes = Bytes(document);
     RegistryDocument reread = RegistryDocument::FromBytes(bytes);
-    Require(reread.ToBytes() == bytes);
+    Require(Bytes(reread) == bytes);
     return reread;
 }
 
@@ -61,7 +68,12 @@ std::string QuotableText(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const RegistryDocument document = Reread(RegistryDocument::FromBytes(bytes));
+    const RegistryDocument read = RegistryDocument::FromBytes(bytes);
+    std::string written;
+    std::string why;
+    // A file that would not come back as it was is refused, never damaged.
+    if (!read.ToBytes(written, why)) return 0;
+    const RegistryDocument document = Reread(read);
 
     // A value of the file itself, to edit in place, and one of a key the file may lack.
     std::string key = "HKEY_CURRENT_USER\\SOFTWARE\\Korvel\\VXUser\\Users";

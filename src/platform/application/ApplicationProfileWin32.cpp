@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/application/ApplicationProfile.h"
+#include "platform/file/StoreFailure.h"
 
 namespace vx::app_profile {
 namespace {
@@ -70,6 +71,12 @@ bool ReadText(const std::string& profileName, const char* section, const char* e
     return true;
 }
 
+// A write's result, with the key and the cause recorded when it failed.
+bool Written(const std::string& key, LONG result) {
+    return result == ERROR_SUCCESS ||
+           StoreFailure("HKEY_CURRENT_USER\\" + key, SystemErrorText(static_cast<DWORD>(result)));
+}
+
 }  // namespace
 
 std::string Location(const std::string& profileName) {
@@ -99,9 +106,11 @@ std::string GetString(const std::string& profileName, const char* section, const
 bool WriteInt(const std::string& profileName, const char* section, const char* entry, int value) {
     Key key(SectionKey(profileName, section), true);
     DWORD number = static_cast<DWORD>(value);
-    return key.get() != nullptr &&
-           RegSetValueExA(key.get(), entry, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number),
-                          sizeof number) == ERROR_SUCCESS;
+    return Written(SectionKey(profileName, section),
+                   key.get() == nullptr
+                       ? ERROR_ACCESS_DENIED
+                       : RegSetValueExA(key.get(), entry, 0, REG_DWORD,
+                                        reinterpret_cast<const BYTE*>(&number), sizeof number));
 }
 
 bool WriteString(const std::string& profileName, const char* section, const char* entry,
@@ -119,9 +128,12 @@ bool WriteString(const std::string& profileName, const char* section, const char
         return result == ERROR_SUCCESS || result == ERROR_FILE_NOT_FOUND;
     }
     Key key(SectionKey(profileName, section), true);
-    return key.get() != nullptr &&
-           RegSetValueExA(key.get(), entry, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
-                          static_cast<DWORD>(std::strlen(value) + 1)) == ERROR_SUCCESS;
+    return Written(
+        SectionKey(profileName, section),
+        key.get() == nullptr
+            ? ERROR_ACCESS_DENIED
+            : RegSetValueExA(key.get(), entry, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
+                             static_cast<DWORD>(std::strlen(value) + 1)));
 }
 
 }  // namespace vx::app_profile

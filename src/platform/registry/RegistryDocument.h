@@ -54,6 +54,7 @@ public:
     bool Remove(std::string_view key, std::string_view name);
 
     const std::vector<RegistryLine>& lines() const { return m_lines; }
+    const ValueMap& values() const { return m_values; }
 
 private:
     struct Placement;
