@@ -1,15 +1,20 @@
-// Users changed by several processes, and by processes killed at any instant: every operation
-// is one unit, so each user keeps its own folder and no user is lost or listed twice.
+// Users changed by several threads and processes at once, and by processes killed at any
+// instant: every operation is one unit, so each user keeps its own folder and no user is lost
+// or listed twice. The threads run on every system (on Windows they meet at the key's mutex).
 #ifndef _WIN32
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <random>
 #include <set>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "AppEnvTest.h"
 #include "vxutil/appenv/CAppEnv.h"
@@ -40,6 +45,35 @@ protected:
         return users;
     }
 
+    // Adds users "<prefix>0" ... "<prefix>19", deleting every odd one once the next is added;
+    // false when an operation fails. Users "<prefix>" + even numbers remain.
+    static bool AddAndDelete(const std::string& prefix) {
+        for (int i = 0; i < 20; ++i) {
+            const std::string name = prefix + std::to_string(i);
+            if (!CAppEnv::AddUser(name.c_str(), FolderOf(name).c_str())) return false;
+            const std::string previous = prefix + std::to_string(i - 1);
+            if (i % 2 == 0 && i > 0 && !CAppEnv::DeleteUser(previous.c_str())) return false;
+        }
+        return CAppEnv::DeleteUser((prefix + "19").c_str()) != 0;
+    }
+
+    static std::set<std::string> Remaining(const std::string& prefix) {
+        std::set<std::string> names;
+        for (int i = 0; i < 20; i += 2)
+            names.insert(prefix + std::to_string(i));
+        return names;
+    }
+
+    // The stored names that start with `prefix`.
+    std::set<std::string> StoredWith(const std::string& prefix) {
+        std::string last;
+        std::set<std::string> names;
+        for (const auto& [name, folder] : Stored(last))
+            if (name.starts_with(prefix)) names.insert(name);
+        return names;
+    }
+
+#ifndef _WIN32
     // Runs `work` in a child process and waits for it, killing it after `killAfter` when given.
     static void InChild(const std::function<void()>& work,
                         std::chrono::microseconds killAfter = std::chrono::microseconds::max()) {
@@ -56,7 +90,27 @@ protected:
         int status = 0;
         ::waitpid(child, &status, 0);
     }
+#endif
 };
+
+TEST_F(UsersAtomicityTest, ThreadsAddingAndDeletingAtOnceEndWithTheExactSet) {
+    std::set<std::string> expected;
+    std::vector<std::thread> threads;
+    bool failed[4] = {};
+    for (int t = 0; t < 4; ++t) {
+        const std::string prefix = "t" + std::to_string(t) + "-";
+        const auto remaining = Remaining(prefix);
+        expected.insert(remaining.begin(), remaining.end());
+        threads.emplace_back([prefix, &failed, t] { failed[t] = !AddAndDelete(prefix); });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    for (const bool threadFailed : failed)
+        EXPECT_FALSE(threadFailed);
+    EXPECT_EQ(StoredWith("t"), expected);
+}
+
+#ifndef _WIN32
 
 TEST_F(UsersAtomicityTest, AWriterKilledAtAnyInstantLeavesTheUsersBeforeOrAfter) {
     for (int n = 0; n < 12; ++n) {
@@ -110,27 +164,16 @@ TEST_F(UsersAtomicityTest, AWriterKilledAtAnyInstantLeavesTheUsersBeforeOrAfter)
 TEST_F(UsersAtomicityTest, ProcessesAddingAndDeletingAtOnceEndWithTheExactSet) {
     for (const int processes : {2, 4}) {
         SCOPED_TRACE(processes);
+        const std::string run = "p" + std::to_string(processes) + "-";
         std::set<std::string> expected;
         std::vector<pid_t> children;
         for (int p = 0; p < processes; ++p) {
-            for (int i = 0; i < 20; i += 2)
-                expected.insert("p" + std::to_string(processes) + "-" + std::to_string(p) + "-" +
-                                std::to_string(i));
+            const std::string prefix = run + std::to_string(p) + "-";
+            const auto remaining = Remaining(prefix);
+            expected.insert(remaining.begin(), remaining.end());
             const pid_t child = ::fork();
             ASSERT_GE(child, 0);
-            if (child == 0) {
-                // Adds 20 users and deletes every odd one right after the next is added.
-                const std::string prefix =
-                    "p" + std::to_string(processes) + "-" + std::to_string(p) + "-";
-                for (int i = 0; i < 20; ++i) {
-                    const std::string name = prefix + std::to_string(i);
-                    if (!CAppEnv::AddUser(name.c_str(), FolderOf(name).c_str())) ::_exit(1);
-                    const std::string previous = prefix + std::to_string(i - 1);
-                    if (i % 2 == 0 && i > 0 && !CAppEnv::DeleteUser(previous.c_str())) ::_exit(1);
-                }
-                if (!CAppEnv::DeleteUser((prefix + "19").c_str())) ::_exit(1);
-                ::_exit(0);
-            }
+            if (child == 0) ::_exit(AddAndDelete(prefix) ? 0 : 1);
             children.push_back(child);
         }
         for (const pid_t child : children) {
@@ -138,13 +181,10 @@ TEST_F(UsersAtomicityTest, ProcessesAddingAndDeletingAtOnceEndWithTheExactSet) {
             ::waitpid(child, &status, 0);
             EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
         }
-        std::string last;
-        std::set<std::string> names;
-        for (const auto& [name, folder] : Stored(last))
-            if (name.starts_with("p" + std::to_string(processes) + "-")) names.insert(name);
-        EXPECT_EQ(names, expected);
+        EXPECT_EQ(StoredWith(run), expected);
     }
 }
 
-}  // namespace
 #endif
+
+}  // namespace
