@@ -10,14 +10,6 @@
 namespace vx::value {
 namespace {
 
-template <class Convert>
-auto InClassicLocale(Convert convert) {
-    const char* point = std::localeconv()->decimal_point;
-    if (point[0] == '.' && point[1] == '\0') return convert();
-    NumericLocaleScope classic;
-    return convert();
-}
-
 bool InGeneralNotation(double value, bool general) {
     const double magnitude = std::fabs(value);
     return general && magnitude != 0 && (magnitude < 0.000001 || magnitude > 999999999);
@@ -65,7 +57,10 @@ CGNString FormatClassicReal(double value) {
 }
 
 double ParseReal(const char* text, char** end) {
-    return InClassicLocale([text, end] { return std::strtod(text, end); });
+    const char* point = std::localeconv()->decimal_point;
+    if (point[0] == '.' && point[1] == '\0') return std::strtod(text, end);
+    NumericLocaleScope classic;
+    return std::strtod(text, end);
 }
 
 }  // namespace vx::value

@@ -15,8 +15,8 @@ CGNString FormatReal(double value, int precision, bool general);
 CGNString FormatClassicReal(double value);
 
 // strtod in the "C" numeric locale, whatever the user's locale: how every real number is read
-// from text. Switching the locale costs more than the conversion, so it is only switched, here
-// and for FormatClassicReal, when the current one does not already use the point.
+// from text. Switching the locale costs more than the conversion, so it is only switched when
+// the current one does not already use the point.
 double ParseReal(const char* text, char** end);
 
 }  // namespace vx::value

@@ -1,8 +1,12 @@
 // Each type's display, literal, qualifier and encoded texts, and decoding.
+#include <cmath>
 #include <functional>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "decimal/CommaLocale.h"
+#include "foundation/value/RealText.h"
 #include "support/TempHome.h"
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
@@ -107,6 +111,24 @@ TEST_F(ValueTextTest, RealNumberRule) {
         value.SetReal(c.value);
         value.SetPrecision(c.precision);
         EXPECT_EQ(Display(value), c.display) << c.value << " / " << c.precision;
+    }
+}
+
+// The encoded text writes reals with std::to_chars, the other texts with printf: the two must
+// agree on every value, at the rounding ties and the switches to exponent form included.
+TEST_F(ValueTextTest, EncodedRealsAreWrittenAsPrintfWritesThem) {
+    std::vector<double> values = {
+        0.0,        -0.0,           12.0,      0.5,       1.0 / 3,           0.0000005, 0.000001,
+        0.00000099, 2.5e-7,         0.1234565, 999999999, 999999999.0000005, 1e9,       -1e300,
+        1e-300,     123456.0000005, HUGE_VAL,  -HUGE_VAL};
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 5000; ++i) {
+        const auto mantissa = static_cast<double>(random() % 2000001) - 1000000;
+        values.push_back(std::ldexp(mantissa, static_cast<int>(random() % 90) - 70));
+    }
+    for (const double value : values) {
+        EXPECT_EQ(vx::value::FormatClassicReal(value), vx::value::FormatReal(value, -1, true))
+            << value;
     }
 }
 
