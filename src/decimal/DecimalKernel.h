@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <string_view>
 
@@ -34,6 +35,15 @@ using Native128 = Portable128;
 inline constexpr int kMaxScale = 28;
 
 enum class Outcome { kExact, kInexact, kOverflow };
+
+// 10^0 to 10^19, every power of ten within 64 bits.
+inline constexpr auto kPowersOfTen = [] {
+    std::array<std::uint64_t, 20> powers{};
+    powers[0] = 1;
+    for (std::size_t i = 1; i < powers.size(); ++i)
+        powers[i] = powers[i - 1] * 10;
+    return powers;
+}();
 
 template <class U>
 struct Number {
@@ -156,38 +166,14 @@ public:
     // only while the division has a remainder. Division by zero is an overflow.
     static Outcome Divide(const Num& a, const Num& b, Num& result) {
         if (b.magnitude == U(0)) return Outcome::kOverflow;
-        const U divisor = b.magnitude;
-        U quotient = a.magnitude / divisor;
-        U remainder = a.magnitude - quotient * divisor;
+        U quotient, remainder;
+        DivideWithRemainder(a.magnitude, b.magnitude, quotient, remainder);
         int scale = a.scale - b.scale;
-        const int preferred = std::max(scale, 0);
-        // Long division: as many digits at a time as surely fit (at most nine, so that
-        // remainder * 10^9 stays below 2^128), then one more while it happens to fit.
-        while (scale < kMaxScale && (scale < 0 || remainder != U(0))) {
-            int step =
-                std::max(RoomFor(quotient, std::min(scale < 0 ? -scale : kMaxScale - scale, 9)), 1);
-            if (NextDigits(divisor, step, quotient, remainder)) {
-                scale += step;
-            } else if (scale < 0) {
-                return Outcome::kOverflow;
-            } else {
-                break;
-            }
-        }
-        // A chunk may have run past the point where the division came out even.
-        while (remainder == U(0) && scale > preferred && quotient % U(10) == U(0)) {
-            quotient = quotient / U(10);
-            --scale;
-        }
         Dropped dropped;
-        if (remainder != U(0)) {
-            U digit, rest;
-            ScaledDivision(divisor, remainder, 1, digit, rest);
-            dropped.digit = static_cast<int>(static_cast<std::uint64_t>(digit));
-            dropped.sticky = rest != U(0);
-        }
-        return Fit(Wide256<U>(quotient), a.negative != b.negative, scale, kMaxScale, dropped,
-                   result);
+        if ((remainder != U(0) || scale < 0) &&
+            !MoreDigits(b.magnitude, quotient, remainder, scale, dropped))
+            return Outcome::kOverflow;
+        return FitNarrow(quotient, a.negative != b.negative, scale, result, dropped);
     }
 
     // Cuts to at most `places` decimal places, rounding half away from zero.
@@ -285,15 +271,8 @@ private:
     }
 
     // 10^exponent for 0 <= exponent <= 19.
-    static std::uint64_t Pow10(int exponent) {
-        static constexpr auto kPowers = [] {
-            std::array<std::uint64_t, 20> powers{};
-            powers[0] = 1;
-            for (std::size_t i = 1; i < powers.size(); ++i)
-                powers[i] = powers[i - 1] * 10;
-            return powers;
-        }();
-        return kPowers[static_cast<std::size_t>(exponent)];
+    static constexpr std::uint64_t Pow10(int exponent) {
+        return kPowersOfTen[static_cast<std::size_t>(exponent)];
     }
 
     static Wide256<U> Aligned(const Num& number, int scale) {
@@ -303,47 +282,87 @@ private:
         return value;
     }
 
-    // The most digits, up to `most`, that can follow `quotient` whatever they are: k digits
-    // fit while quotient < 2^95 / 10^k.
+    static int BitLength(U value) {
+        const auto high = static_cast<std::uint64_t>(value >> 64);
+        return high != 0 ? 128 - std::countl_zero(high)
+                         : 64 - std::countl_zero(static_cast<std::uint64_t>(value));
+    }
+
+    // Long division, while there is a remainder or the quotient lacks places (scale < 0): as
+    // many digits at a time as surely fit, then one more while it happens to fit; when even
+    // that one does not, it is the first digit dropped. False when not even the integral
+    // part fits.
+    static bool MoreDigits(U divisor, U& quotient, U& remainder, int& scale, Dropped& dropped) {
+        const int preferred = std::max(scale, 0);
+        while (scale < kMaxScale && (scale < 0 || remainder != U(0))) {
+            const int most = std::min(scale < 0 ? -scale : kMaxScale - scale, ChunkFor(remainder));
+            const int step = std::max(RoomFor(quotient, most), 1);
+            U digits, rest;
+            ScaledDivision(divisor, remainder, step, digits, rest);
+            const U extended = quotient * U(Pow10(step)) + digits;
+            if (extended > MaxMagnitude()) {
+                if (scale < 0) return false;
+                dropped =
+                    Dropped{static_cast<int>(static_cast<std::uint64_t>(digits)), rest != U(0)};
+                return true;
+            }
+            quotient = extended;
+            remainder = rest;
+            scale += step;
+        }
+        // A chunk may have run past the point where the division came out even.
+        while (remainder == U(0) && scale > preferred && quotient % U(10) == U(0)) {
+            quotient = quotient / U(10);
+            --scale;
+        }
+        if (remainder != U(0)) {
+            U digit, rest;
+            ScaledDivision(divisor, remainder, 1, digit, rest);
+            dropped = Dropped{static_cast<int>(static_cast<std::uint64_t>(digit)), rest != U(0)};
+        }
+        return true;
+    }
+
+    // The most digits, up to `most`, that can follow `quotient` < 2^95 whatever they are.
+    // k digits fit while quotient < 2^95 / 10^k: surely for k up to (95 - bits) * log10(2)
+    // (1233 / 4096 is just below it), and never for two more.
     static int RoomFor(U quotient, int most) {
-        static const auto kLimits = [] {
-            std::array<U, 10> limits{};
-            for (int k = 0; k < 10; ++k)
+        static constexpr auto kLimits = [] {
+            std::array<U, 20> limits{};
+            for (int k = 0; k < 20; ++k)
                 limits[static_cast<std::size_t>(k)] = (U(1) << 95) / U(Pow10(k));
             return limits;
         }();
-        int room = 0;
-        while (room < most && quotient < kLimits[static_cast<std::size_t>(room) + 1])
-            ++room;
-        return room;
+        int room = std::min(((95 - BitLength(quotient)) * 1233) >> 12, 18);
+        if (quotient < kLimits[static_cast<std::size_t>(room) + 1]) ++room;
+        return std::min(room, most);
+    }
+
+    // In 64 bits when both fit there: far cheaper than dividing 128 bits.
+    static void DivideWithRemainder(U dividend, U divisor, U& quotient, U& remainder) {
+        if (((dividend | divisor) >> 64) == U(0)) {
+            const auto narrowDividend = static_cast<std::uint64_t>(dividend);
+            const auto narrowDivisor = static_cast<std::uint64_t>(divisor);
+            quotient = U(narrowDividend / narrowDivisor);
+            remainder = U(narrowDividend % narrowDivisor);
+            return;
+        }
+        quotient = dividend / divisor;
+        remainder = dividend - quotient * divisor;
     }
 
     // digits, rest = remainder * 10^count divided by the divisor, for remainder < divisor and
-    // count <= 9. A divisor of 32 bits keeps the product within 64 bits, where dividing is
-    // much cheaper.
+    // count at most ChunkFor(remainder).
     static void ScaledDivision(U divisor, U remainder, int count, U& digits, U& rest) {
-        const std::uint64_t power = Pow10(count);
-        if (divisor <= U(0xFFFFFFFFu)) {
-            const std::uint64_t small = static_cast<std::uint64_t>(divisor);
-            const std::uint64_t scaled = static_cast<std::uint64_t>(remainder) * power;
-            digits = U(scaled / small);
-            rest = U(scaled % small);
-            return;
-        }
-        const U scaled = remainder * U(power);
-        digits = scaled / divisor;
-        rest = scaled - digits * divisor;
+        DivideWithRemainder(remainder * U(Pow10(count)), divisor, digits, rest);
     }
 
-    // Appends `count` quotient digits when they keep the quotient within the mantissa.
-    static bool NextDigits(U divisor, int count, U& quotient, U& remainder) {
-        U digits, rest;
-        ScaledDivision(divisor, remainder, count, digits, rest);
-        U extended = quotient * U(Pow10(count)) + digits;
-        if (extended > MaxMagnitude()) return false;
-        quotient = extended;
-        remainder = rest;
-        return true;
+    // How many digits to take at once: as many as keep remainder * 10^count within 64 bits,
+    // where dividing is far cheaper, or else within 128 bits (at least nine, as the
+    // remainder is below 2^95).
+    static int ChunkFor(U remainder) {
+        const int bits = BitLength(remainder);
+        return bits <= 34 ? ((64 - bits) * 1233) >> 12 : std::min(((128 - bits) * 1233) >> 12, 19);
     }
 
     // Removes `count` digits from the right of `value`, noting them in `dropped`.
@@ -362,11 +381,16 @@ private:
         return bits <= 96 ? 0 : ((bits - 96) * 1233) >> 12;
     }
 
-    // Fit for a value within U, with the common case first: it fits as it is.
+    // Fit for a value within U, with the common cases first: it fits as it is, or once rounded
+    // up by one.
     static Outcome FitNarrow(U value, bool negative, int scale, Num& result,
                              Dropped dropped = Dropped()) {
-        if (scale > kMaxScale || value > MaxMagnitude() || dropped.digit >= 5)
+        if (scale > kMaxScale || value >= MaxMagnitude())
             return Fit(Wide256<U>(value), negative, scale, kMaxScale, dropped, result);
+        if (dropped.digit >= 5) {
+            value = value + U(1);
+            dropped = Dropped{0, true};
+        }
         result.magnitude = value;
         result.negative = negative && value != U(0);
         result.scale = scale;

@@ -51,26 +51,22 @@ TKStatus Store(Outcome outcome, const Number& number, TKDecimal& result) {
 }
 
 // The catalogue messages of one operation. Their texts name nothing but the type, so each is
-// formatted once, not at every rounded result.
+// made once, not at every rounded result.
 class Faults {
 public:
     Faults(const TKMessage& overflow, const TKMessage& inexact)
-        : m_overflow(overflow),
-          m_inexact(inexact),
-          m_strOverflow(TKFormat(overflow.text, TKDecimal::kTypeName)),
-          m_strInexact(TKFormat(inexact.text, TKDecimal::kTypeName)) {}
+        : m_overflow(TKMakeMessage(overflow, TKDecimal::kTypeName)),
+          m_inexact(TKMakeMessage(inexact, TKDecimal::kTypeName)) {}
 
     TKStatus Report(TKStatus status) const {
-        if (status == TKStatus::kOverflow) TKReportError(TKxmsg(m_overflow, m_strOverflow));
-        if (status == TKStatus::kInexact) TKReportError(TKxmsg(m_inexact, m_strInexact));
+        if (status == TKStatus::kOverflow) TKReportError(m_overflow);
+        if (status == TKStatus::kInexact) TKReportError(m_inexact);
         return status;
     }
 
 private:
-    const TKMessage& m_overflow;
-    const TKMessage& m_inexact;
-    std::string m_strOverflow;
-    std::string m_strInexact;
+    TKxmsg m_overflow;
+    TKxmsg m_inexact;
 };
 
 enum class Operation { kAdd, kSubtract, kMultiply, kDivide, kFromPortable };
@@ -87,11 +83,10 @@ const Faults& FaultsOf(Operation operation) {
 // The operations that need more than their quick common case; out of line, so that the quick
 // case keeps its numbers in registers.
 template <Outcome (*compute)(const Number&, const Number&, Number&)>
-[[gnu::noinline]] TKStatus Compute(Operation operation, const Signed& a, const Signed& b,
+[[gnu::noinline]] TKStatus Compute(Operation operation, const TKDecimal& a, const TKDecimal& b,
                                    TKDecimal& result) {
     Number number;
-    const TKStatus status =
-        Store(compute(Kernel::FromSigned(a), Kernel::FromSigned(b), number), number, result);
+    const TKStatus status = Store(compute(ToNumber(a), ToNumber(b), number), number, result);
     return status == TKStatus::kExact ? status : FaultsOf(operation).Report(status);
 }
 
@@ -104,7 +99,7 @@ TKStatus Apply(Operation operation, const TKDecimal& a, const TKDecimal& b, TKDe
     }
     const Signed x = ToSigned(a), y = ToSigned(b);
     Signed exact;
-    if (!quick(x, y, exact)) return Compute<compute>(operation, x, y, result);
+    if (!quick(x, y, exact)) return Compute<compute>(operation, a, b, result);
     result = FromSigned(exact);
     return TKStatus::kExact;
 }
