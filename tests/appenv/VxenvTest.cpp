@@ -87,6 +87,11 @@ TEST_F(VxenvTest, PreferencesPathsAndServers) {
         1);
     EXPECT_EQ(port.str() + "/" + rpc.str(), "2020/390600");
     EXPECT_EQ(Output("servers attrs ann backup").find("disabled: yes\n"), 0u);
+    EXPECT_EQ(Output("--json servers attrs ann backup"),
+              "{\"server\": \"backup\", \"disabled\": true, \"workflow\": true, \"notifier\": "
+              "false, \"tcp_port\": null, \"rpc\": null, \"notifier_tcp_port\": null}\n");
+    EXPECT_NE(Output("--json servers attrs ann main").find("\"tcp_port\": 2020, \"rpc\": 390600, "),
+              std::string::npos);
     EXPECT_EQ(Run("servers attrs ann nowhere"), 1);
     EXPECT_EQ(Run("servers set ann main:vx:99999"), 2);
     EXPECT_EQ(Run("servers set zed main"), 1);

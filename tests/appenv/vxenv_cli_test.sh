@@ -36,7 +36,7 @@ check() {
 }
 
 check 0 '*' --version
-check 0 '*' -- --help
+check 0 '2\12' -- encode value integer 12
 check 2 '' --bogus status
 check 2 '' --app ../elsewhere prefs list
 check 2 '' '--app=..\elsewhere' prefs list

@@ -56,7 +56,7 @@ void PrintWrapped(std::FILE* out, std::string line, std::size_t indent, std::str
 }
 
 int PrintLeafHelp(const Command& command, const std::string& path) {
-    std::printf("usage: vxenv [GLOBAL OPTIONS] %s%s%.*s\n", path.c_str(),
+    std::printf("Usage: vxenv [GLOBAL OPTIONS] %s%s%.*s\n", path.c_str(),
                 command.arguments.empty() ? "" : " ", static_cast<int>(command.arguments.size()),
                 command.arguments.data());
     PrintWrapped(stdout, "", 2, command.summary);
@@ -198,7 +198,7 @@ int Dispatch(std::span<const Command> table, Context& context, std::span<const s
              const std::string& path) {
     if (words.empty() || IsHelp(words[0])) {
         std::FILE* out = words.empty() ? stderr : stdout;
-        std::fprintf(out, "usage: vxenv [GLOBAL OPTIONS] %s%sCOMMAND ...\n\ncommands:\n",
+        std::fprintf(out, "Usage: vxenv [GLOBAL OPTIONS] %s%sCOMMAND ...\n\nCommands:\n",
                      path.c_str(), path.empty() ? "" : " ");
         PrintCommands(out, table, path);
         return words.empty() ? kUsage : kOk;

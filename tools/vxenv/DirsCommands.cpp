@@ -73,8 +73,10 @@ int Validate(Context& context, Args& args) {
     const bool valid = RValidatePaths(args[0].c_str(), firstInvalid,
                                       separator != nullptr ? (*separator)[0] : ';') != 0;
     if (context.json()) {
-        context.Print(
-            JsonObject().Add("valid", valid).Add("first_invalid", firstInvalid.view()).Text());
+        context.Print(JsonObject()
+                          .Add("valid", valid)
+                          .AddRaw("first_invalid", valid ? "null" : JsonString(firstInvalid.view()))
+                          .Text());
     } else {
         context.Print(valid ? "valid" : "missing: " + firstInvalid.str());
     }

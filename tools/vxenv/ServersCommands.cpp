@@ -1,4 +1,5 @@
 // vxenv servers: the servers a user logs in to (the server file in the user's home folder).
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
@@ -116,6 +117,12 @@ int Set(Context& context, Args& args) {
     return kOk;
 }
 
+// A port or RPC number as JSON: the number, or null when the file gives none (or no number).
+std::string JsonPort(const CGNString& text) {
+    long long number = 0;
+    return ParseNumber(text.str(), 0, UINT32_MAX, number) ? std::to_string(number) : "null";
+}
+
 const char* YesNo(CAppEnv::flag value) {
     return value ? "yes" : "no";
 }
@@ -136,9 +143,9 @@ int Attrs(Context& context, Args& args) {
                           .Add("disabled", disabled != 0)
                           .Add("workflow", workflow != 0)
                           .Add("notifier", notifier != 0)
-                          .Add("tcp_port", port.view())
-                          .Add("rpc", rpc.view())
-                          .Add("notifier_tcp_port", notifierPort.view())
+                          .AddRaw("tcp_port", JsonPort(port))
+                          .AddRaw("rpc", JsonPort(rpc))
+                          .AddRaw("notifier_tcp_port", JsonPort(notifierPort))
                           .Text());
         return kOk;
     }
