@@ -2,6 +2,9 @@
 # Builds the benchmarks (Release) and runs each benchmark program; arguments go to every one of
 # them, e.g. scripts/bench.sh --benchmark_filter=Profile --benchmark_repetitions=5
 #   scripts/bench.sh [linux|win64] [benchmark arguments...]   (default: linux)
+# The run ends with a summary of the standing: each ratio against its anchor from this run and
+# the settings-store figures against their targets (scripts/lib/bench_summary.py, read from
+# the programs' JSON output in the build folder's bench-results).
 # win64 builds the Windows x64 programs with MinGW-w64 and runs them under Wine. Debian ships
 # Google Benchmark only as a native library, so its Debian source package is fetched into build/
 # and built with the cross compiler first (once; later runs reuse it).
@@ -77,7 +80,7 @@ runner=()
 case "$target" in
 linux)
     dir="$VX_BUILD/bench"
-    vx_need_packages cmake ninja-build g++ libbenchmark-dev &&
+    vx_need_packages cmake ninja-build g++ libbenchmark-dev python3 &&
         vx_configure "$dir" -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=g++ \
             -DVXUTIL_BUILD_BENCH=ON -DVXUTIL_BUILD_TESTS=OFF -DVXUTIL_BUILD_TOOLS=OFF &&
         vx_build "$dir" || exit 1
@@ -85,7 +88,7 @@ linux)
 win64)
     dir="$VX_BUILD/bench-win64"
     # The toolchain confines package searches to the MinGW root, so the prefix is named directly.
-    vx_need_packages "${VX_WIN64_PACKAGES[@]}" dpkg-dev &&
+    vx_need_packages "${VX_WIN64_PACKAGES[@]}" dpkg-dev python3 &&
         build_benchmark_win64 &&
         vx_configure "$dir" "$(vx_toolchain x86_64)" -DCMAKE_BUILD_TYPE=Release \
             -Dbenchmark_DIR="$BENCHMARK_DIR/win64/lib/cmake/benchmark" \
@@ -106,9 +109,20 @@ if [ ${#programs[@]} -eq 0 ]; then
     echo "no benchmark programs were built" >&2
     exit 1
 fi
+# Figures of an earlier run must not stand in for a program that fails this time.
+results="$dir/bench-results"
+rm -rf "$results"
+mkdir -p "$results"
 status=0
 for program in "${programs[@]}"; do
-    vx_banner "$(basename "$program")"
-    "${runner[@]}" "$program" "$@" </dev/null || status=1
+    name="$(basename "$program")"
+    vx_banner "$name"
+    out="$results/${name%.exe}.json"
+    # The Windows programs take the file as a Windows path.
+    [ "$target" = win64 ] && out="$(winepath -w "$out" 2>/dev/null)"
+    "${runner[@]}" "$program" "$@" --benchmark_out="$out" --benchmark_out_format=json \
+        </dev/null || status=1
 done
+vx_banner "standing ($target, this run)"
+python3 "$here/lib/bench_summary.py" "$results"
 exit $status

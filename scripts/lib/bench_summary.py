@@ -1,0 +1,127 @@
+#!/usr/bin/env python3
+"""Prints the standing of the benchmarks at a glance: every ratio against its anchor in the same
+run, and the settings-store figures against their targets.
+
+    bench_summary.py <folder of Google Benchmark JSON files (--benchmark_out)>
+
+A figure is the median when the run had repetitions, else the single run's. Times are CPU
+time (user and system; throughputs are computed from it), which other work on the machine
+disturbs less than wall-clock time; only AddUser and DeleteUser are wall-clock, as they mostly
+wait for the disk. A measure that the run did not produce prints as "n/a"; nothing here fails
+the run.
+"""
+import glob
+import json
+import os
+import statistics
+import sys
+
+SCALE = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+# (label, ours, anchor): decimal arithmetic against GCC's _Decimal128, as a speed-up.
+DECIMAL = [
+    (f"decimal {op}, {size} operands", f"TKDecimal/{op}/{arg}", f"_Decimal128/{op}/{arg}", goal)
+    for op, goal in (("add", 2.0), ("multiply", 2.0), ("divide", 1.0))
+    for arg, size in ((0, "short"), (1, "wide"))
+]
+
+# (label, ours, anchor): throughput of the encoded texts against a raw scan of the same bytes.
+TEXTS = [
+    ("decode of values", "DecodeValues", "RawScanValues"),
+    ("encode of values", "EncodeValues", "RawScanValues"),
+    ("decode of qualifiers", "DecodeQualifiers", "RawScanQualifiers"),
+    ("encode of qualifiers", "EncodeQualifiers", "RawScanQualifiers"),
+]
+TEXT_GOAL = 0.25
+
+# (label, benchmark, time field, limit in ns or None): settings-store figures.
+STORE = [
+    ("GetListOfUsers, 1,000 users", "GetListOfUsers/1000", "cpu_time", 1e6),
+    ("FindHomeDirectory of the last of 1,000", "FindHomeDirectoryOfTheLastUser/1000", "cpu_time",
+     0.3e6),
+    ("one cached profile read (ReadCached)", "ReadCached", "cpu_time", 1e3),
+    ("AddUser, 1,000 users", "AddUser/1000", "real_time", None),
+    ("DeleteUser, 1,000 users", "DeleteUser/1000", "real_time", None),
+]
+
+
+def load(folder):
+    """Every run by name: its entries (iterations or the median aggregate)."""
+    runs = {}
+    for path in sorted(glob.glob(os.path.join(folder, "*.json"))):
+        try:
+            with open(path, encoding="utf-8") as file:
+                data = json.load(file)
+        except (OSError, ValueError):
+            continue
+        for entry in data.get("benchmarks", []):
+            name = entry.get("run_name", entry.get("name"))
+            runs.setdefault(name, []).append(entry)
+    return runs
+
+
+def figure(runs, name, field):
+    """The run's field (times in ns), the median aggregate first; None when missing."""
+    entries = runs.get(name, [])
+    medians = [e for e in entries if e.get("aggregate_name") == "median"]
+    chosen = medians or [e for e in entries if e.get("run_type", "iteration") == "iteration"]
+    values = []
+    for entry in chosen:
+        if field not in entry:
+            continue
+        value = float(entry[field])
+        if field.endswith("_time"):
+            value *= SCALE.get(entry.get("time_unit", "ns"), 1.0)
+        values.append(value)
+    return statistics.median(values) if values else None
+
+
+def time_text(ns):
+    if ns is None:
+        return "n/a"
+    for unit, size in (("s", 1e9), ("ms", 1e6), ("us", 1e3)):
+        if ns >= size:
+            return f"{ns / size:.3g} {unit}"
+    return f"{ns:.3g} ns"
+
+
+def rate_text(rate):
+    return "n/a" if rate is None else f"{rate / 1e6:.1f} MB/s"
+
+
+def verdict(value, passed):
+    return "" if value is None else ("ok" if passed else "MISSED")
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    runs = load(sys.argv[1])
+    rows = [("measure", "ours", "anchor", "standing", "target", "")]
+    for label, ours, anchor, goal in DECIMAL:
+        mine = figure(runs, ours, "cpu_time")
+        theirs = figure(runs, anchor, "cpu_time")
+        ratio = theirs / mine if mine and theirs else None
+        rows.append((label, time_text(mine), f"_Decimal128 {time_text(theirs)}",
+                     "n/a" if ratio is None else f"{ratio:.2f}x", f">= {goal:g}x",
+                     verdict(ratio, ratio is not None and ratio >= goal)))
+    for label, ours, anchor in TEXTS:
+        mine = figure(runs, ours, "bytes_per_second")
+        theirs = figure(runs, anchor, "bytes_per_second")
+        ratio = mine / theirs if mine and theirs else None
+        rows.append((label, rate_text(mine), f"raw scan {rate_text(theirs)}",
+                     "n/a" if ratio is None else f"{ratio:.0%}", f">= {TEXT_GOAL:.0%}",
+                     verdict(ratio, ratio is not None and ratio >= TEXT_GOAL)))
+    for label, name, field, limit in STORE:
+        mine = figure(runs, name, field)
+        target = "-" if limit is None else f"< {time_text(limit)}"
+        passed = limit is None or (mine is not None and mine < limit)
+        rows.append((label, time_text(mine), "", "", target,
+                     "" if limit is None else verdict(mine, passed)))
+    widths = [max(len(row[i]) for row in rows) for i in range(len(rows[0]))]
+    for row in rows:
+        print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
+
+
+if __name__ == "__main__":
+    main()
