@@ -158,19 +158,48 @@ std::string Describe(vx::decimal::Outcome outcome, const vx::decimal::Number<U>&
     return std::to_string(static_cast<int>(outcome)) + " " + text;
 }
 
+// An operation's general form and its quick common case.
+template <class U>
+struct KernelOperation {
+    using Kernel = vx::decimal::Kernel<U>;
+    decltype(&Kernel::Add) general;
+    decltype(&Kernel::QuickAdd) quick;
+
+    static KernelOperation Of(char op) {
+        switch (op) {
+            case '+':
+                return {Kernel::Add, Kernel::QuickAdd};
+            case '-':
+                return {Kernel::Subtract, Kernel::QuickSubtract};
+            case '*':
+                return {Kernel::Multiply, Kernel::QuickMultiply};
+            default:
+                return {Kernel::Divide, Kernel::QuickDivide};
+        }
+    }
+
+    // The quick case's result as Describe writes it, or "-" where it leaves the operation to
+    // the general form.
+    std::string Quick(const vx::decimal::Number<U>& a, const vx::decimal::Number<U>& b) const {
+        vx::decimal::Signed<U> exact;
+        if (!quick(Kernel::ToSigned(a), Kernel::ToSigned(b), exact)) return "-";
+        return Describe(vx::decimal::Outcome::kExact, Kernel::FromSigned(exact));
+    }
+};
+
 template <class U>
 void ExpectTableThroughKernel() {
-    using Kernel = vx::decimal::Kernel<U>;
     for (const ArithmeticCase& c : kCases) {
-        auto operation = c.op == '+'   ? Kernel::Add
-                         : c.op == '-' ? Kernel::Subtract
-                         : c.op == '*' ? Kernel::Multiply
-                                       : Kernel::Divide;
+        const auto operation = KernelOperation<U>::Of(c.op);
+        const auto a = Parse<U>(c.a), b = Parse<U>(c.b);
         vx::decimal::Number<U> result;
-        vx::decimal::Outcome outcome = operation(Parse<U>(c.a), Parse<U>(c.b), result);
-        EXPECT_EQ(Describe(outcome, result),
-                  std::to_string(static_cast<int>(c.status)) + " " + c.expected)
+        const std::string expected = std::to_string(static_cast<int>(c.status)) + " " + c.expected;
+        EXPECT_EQ(Describe(operation.general(a, b, result), result), expected)
             << c.a << " " << c.op << " " << c.b;
+        const std::string quick = operation.Quick(a, b);
+        if (quick != "-") {
+            EXPECT_EQ(quick, expected) << "quick: " << c.a << " " << c.op << " " << c.b;
+        }
     }
 }
 
@@ -237,8 +266,11 @@ std::string RunAll(Portable128 a, Portable128 b, int places) {
     const auto x = Operand<U>(a), y = Operand<U>(b);
     std::string text;
     vx::decimal::Number<U> result;
-    for (auto operation : {Kernel::Add, Kernel::Subtract, Kernel::Multiply, Kernel::Divide})
-        text += Describe(operation(x, y, result), result) + "|";
+    for (char op : {'+', '-', '*', '/'}) {
+        const auto operation = KernelOperation<U>::Of(op);
+        text +=
+            Describe(operation.general(x, y, result), result) + "|" + operation.Quick(x, y) + "|";
+    }
     text += Describe(Kernel::Round(x, places, result), result) + "|";
     return text + std::to_string(Kernel::Compare(x, y));
 }
