@@ -2,8 +2,14 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
+#include <string_view>
+#include <vector>
 
-// The formats are the catalogue's texts, fixed in the library, never text from outside.
+#include "vxutil/gnrt/OSLoadString.h"
+
+// The formats are the catalogue's texts, fixed in the library, or translations whose conversions
+// are exactly the fixed text's (TKMessageFormat), never text from outside.
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
 #endif
@@ -28,4 +34,36 @@ std::string TKFormat(const char* text, ...) {
     va_end(again);
     va_end(args);
     return result;
+}
+
+namespace {
+
+// The printf conversions of `format` in order, each as written ("%s", "%.*s", "%lu").
+std::vector<std::string_view> Conversions(std::string_view format) {
+    std::vector<std::string_view> found;
+    for (std::size_t at = format.find('%'); at != std::string_view::npos;
+         at = format.find('%', at)) {
+        std::size_t end = at + 1;
+        if (end < format.size() && format[end] == '%') {
+            at = end + 1;
+            continue;
+        }
+        while (end < format.size() &&
+               std::strchr("-+ #0123456789.*hlLqjzt", format[end]) != nullptr)
+            ++end;
+        if (end < format.size()) ++end;  // the conversion letter
+        found.push_back(format.substr(at, end - at));
+        at = end;
+    }
+    return found;
+}
+
+}  // namespace
+
+std::string TKMessageFormat(const TKMessage& message) {
+    CGNString translated;
+    if (OSLoadString(message.number, translated) > 0 &&
+        Conversions(translated.view()) == Conversions(message.text))
+        return translated.str();
+    return message.text;
 }

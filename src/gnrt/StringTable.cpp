@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "vxutil/foundation/CVXStatusList.h"
+
 namespace vx {
 namespace {
 
@@ -94,6 +96,16 @@ constexpr Entry kTable[] = {
     {kStrAboutCaption, "About "},
     {kStrAboutVersion, "Version %1.%2 (Build %3)"},
     {kStrAboutSystemInfo, "&System information:"},
+    {kStrButtonOk, "OK"},
+    {kStrButtonCancel, "Cancel"},
+    {kStrButtonAbort, "Abort"},
+    {kStrButtonRetry, "Retry"},
+    {kStrButtonIgnore, "Ignore"},
+    {kStrButtonYes, "Yes"},
+    {kStrButtonNo, "No"},
+    {kStrButtonTryAgain, "Try Again"},
+    {kStrButtonContinue, "Continue"},
+    {kStrAnswered, "[answered: %1]"},
     {kStrLargestFreeBlock, "Largest Free Memory Block"},
     {kStrSwapSpaceSize, "Swap Space Size"},
     {kStrUserHeap, "User Heap"},
@@ -103,9 +115,9 @@ constexpr Entry kTable[] = {
     {kStrSocketDescription, "Description"},
     {kStrSocketStatus, "Status"},
     {kStrResourceVersion, "Resource DLL Version"},
-    {kStrDateOutOfRange, "'%s' is not a valid date. Dates must lie between %s and %s."},
-    {kStrTimeOutOfRange, "'%s' is not a valid time. Times must lie between %s and %s."},
-    {kStrDateTimeOutOfRange,
+    {CVXStatusList::kDateOutOfRange, "'%s' is not a valid date. Dates must lie between %s and %s."},
+    {CVXStatusList::kTimeOutOfRange, "'%s' is not a valid time. Times must lie between %s and %s."},
+    {CVXStatusList::kDateTimeOutOfRange,
      "'%s' is not a valid date and time. Values must lie between %s and %s."},
 };
 

@@ -73,6 +73,18 @@ enum StringId : unsigned {
     kStrAboutCaption = 3180,
     kStrAboutVersion = 3181,
     kStrAboutSystemInfo = 3182,
+    // The buttons of the library's questions, and the note of the answer a prompt without a
+    // user took (the label of the default button).
+    kStrButtonOk = 3190,
+    kStrButtonCancel = 3191,
+    kStrButtonAbort = 3192,
+    kStrButtonRetry = 3193,
+    kStrButtonIgnore = 3194,
+    kStrButtonYes = 3195,
+    kStrButtonNo = 3196,
+    kStrButtonTryAgain = 3197,
+    kStrButtonContinue = 3198,
+    kStrAnswered = 3199,
     // Labels of the about box's system information.
     kStrLargestFreeBlock = 3401,
     kStrSwapSpaceSize = 3402,
@@ -83,11 +95,8 @@ enum StringId : unsigned {
     kStrSocketDescription = 3407,
     kStrSocketStatus = 3408,
     kStrResourceVersion = 3409,
-    // Range messages of the foundation classes: the refused text, then the lowest and the
-    // highest value allowed.
-    kStrDateOutOfRange = 25248,
-    kStrTimeOutOfRange = 25249,
-    kStrDateTimeOutOfRange = 25263,
+    // The range messages of the foundation's statuses are numbered by CVXStatusList::RangeMessage,
+    // which client tools name.
 };
 
 // The built-in text of string `id`, or null when the table has none.

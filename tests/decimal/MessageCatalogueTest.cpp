@@ -4,6 +4,7 @@
 #include <string>
 
 #include "DecimalTestSupport.h"
+#include "gnrt/LocalizedStrings.h"
 #include "support/TempHome.h"
 #include "vxutil/decimal/TKExternalErr.h"
 #include "vxutil/decimal/TKMessage.h"
@@ -45,6 +46,39 @@ TEST_F(MessageCatalogueTest, FormatsArguments) {
     EXPECT_STREQ(error.why(), "[OPERR] Could not open file a.txt");
     EXPECT_EQ(error.GetEntry(), &tkcore::kOpErr);
     EXPECT_EQ(TKxmsg("free text").GetEntry(), nullptr);
+}
+
+// A translation is a printf format: one whose conversions are not exactly the English text's
+// (a corrupt or hostile catalogue) must never reach printf.
+TEST_F(MessageCatalogueTest, TranslationsServeOnlyWithTheEnglishConversions) {
+    static std::string translation;
+    const vx::LocalizedStringLookup previous =
+        vx::SetLocalizedStringLookup([](unsigned id, std::string& text) {
+            text = translation;
+            return id == tkcore::kOvFlow.number && !text.empty();
+        });
+    struct Case {
+        const char* translation;
+        bool used;
+    } cases[] = {
+        {"[OVFLOW] Zu lang -> \"%.*s\" <- (%u Zeichen, 100%%)", true},
+        {"", false},
+        {"[OVFLOW] %s", false},                        // a conversion missing
+        {"[OVFLOW] %.*s %u %s", false},                // one more
+        {"[OVFLOW] %u -> \"%.*s\"", false},            // reordered
+        {"[OVFLOW] -> \"%.*s\" <- (%n max)", false},   // another conversion in its place
+        {"[OVFLOW] -> \"%.*s\" <- (%lu max)", false},  // another length
+    };
+    for (const Case& c : cases) {
+        translation = c.translation;
+        EXPECT_EQ(TKMessageFormat(tkcore::kOvFlow), c.used ? c.translation : tkcore::kOvFlow.text)
+            << c.translation;
+    }
+    translation = cases[0].translation;
+    EXPECT_EQ(TKMakeMessage(tkcore::kOvFlow, 3, "abcdef", 3u).why(),
+              std::string("[OVFLOW] Zu lang -> \"abc\" <- (3 Zeichen, 100%)"));
+    EXPECT_EQ(TKMakeMessage(tkcore::kNoMem).why(), std::string(tkcore::kNoMem.text));
+    vx::SetLocalizedStringLookup(previous);
 }
 
 std::string g_fatal;

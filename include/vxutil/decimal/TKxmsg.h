@@ -30,9 +30,14 @@ private:
 // A catalogue entry's text (a printf format) with its arguments filled in.
 VXUTIL_API std::string TKFormat(const char* text, ...);
 
+// A catalogue entry's text in the user's language: the library's string of the entry's number
+// when a localized catalogue has one with exactly the English text's printf conversions, else
+// the English text.
+VXUTIL_API std::string TKMessageFormat(const TKMessage& message);
+
 // A message of type T (TKxmsg or a class derived from it) from a catalogue entry and its
-// printf arguments.
+// printf arguments, in the user's language.
 template <class T = TKxmsg, class... Args>
 T TKMakeMessage(const TKMessage& message, Args... args) {
-    return T(message, TKFormat(message.text, args...));
+    return T(message, TKFormat(TKMessageFormat(message).c_str(), args...));
 }

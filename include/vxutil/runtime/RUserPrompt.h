@@ -3,6 +3,7 @@
 // a Qt message box, vxenv a terminal prompt; other hosts get the default answer.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "vxutil/export.h"
@@ -35,9 +36,10 @@ inline constexpr int kIdNo = 7;
 inline constexpr int kIdTryAgain = 10;
 inline constexpr int kIdContinue = 11;
 
+// A button of a question: its answer, and its label in the user's language.
 struct PromptButton {
     int id;
-    const char* label;
+    std::string label;
 };
 
 }  // namespace vx

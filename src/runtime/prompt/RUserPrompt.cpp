@@ -1,22 +1,43 @@
 #include "vxutil/runtime/RUserPrompt.h"
 
 #include <cstdio>
+#include <initializer_list>
+#include <string>
 
+#include "gnrt/StringTable.h"
 #include "runtime/prompt/PlatformUserPrompt.h"
+#include "vxutil/gnrt/OSLoadString.h"
+#include "vxutil/runtime/MessageText.h"
 
 namespace {
 
 RUserPrompt* g_installedPrompt = nullptr;
 
-constexpr vx::PromptButton kOk{vx::kIdOk, "OK"};
-constexpr vx::PromptButton kCancel{vx::kIdCancel, "Cancel"};
-constexpr vx::PromptButton kAbort{vx::kIdAbort, "Abort"};
-constexpr vx::PromptButton kRetry{vx::kIdRetry, "Retry"};
-constexpr vx::PromptButton kIgnore{vx::kIdIgnore, "Ignore"};
-constexpr vx::PromptButton kYes{vx::kIdYes, "Yes"};
-constexpr vx::PromptButton kNo{vx::kIdNo, "No"};
-constexpr vx::PromptButton kTryAgain{vx::kIdTryAgain, "Try Again"};
-constexpr vx::PromptButton kContinue{vx::kIdContinue, "Continue"};
+// A button's answer and the string of its label.
+struct ButtonText {
+    int id;
+    unsigned label;
+};
+
+constexpr ButtonText kOk{vx::kIdOk, vx::kStrButtonOk};
+constexpr ButtonText kCancel{vx::kIdCancel, vx::kStrButtonCancel};
+constexpr ButtonText kAbort{vx::kIdAbort, vx::kStrButtonAbort};
+constexpr ButtonText kRetry{vx::kIdRetry, vx::kStrButtonRetry};
+constexpr ButtonText kIgnore{vx::kIdIgnore, vx::kStrButtonIgnore};
+constexpr ButtonText kYes{vx::kIdYes, vx::kStrButtonYes};
+constexpr ButtonText kNo{vx::kIdNo, vx::kStrButtonNo};
+constexpr ButtonText kTryAgain{vx::kIdTryAgain, vx::kStrButtonTryAgain};
+constexpr ButtonText kContinue{vx::kIdContinue, vx::kStrButtonContinue};
+
+std::vector<vx::PromptButton> Labelled(std::initializer_list<ButtonText> buttons) {
+    std::vector<vx::PromptButton> labelled;
+    for (const ButtonText& button : buttons) {
+        CGNString label;
+        OSLoadString(button.label, label);
+        labelled.push_back({button.id, label.str()});
+    }
+    return labelled;
+}
 
 constexpr unsigned kButtonsMask = 0xF;
 constexpr unsigned kDefaultButtonMask = 0xF00;
@@ -39,19 +60,19 @@ RUserPrompt* RUserPrompt::SetCurrent(RUserPrompt* prompt) {
 std::vector<vx::PromptButton> RUserPrompt::Buttons(unsigned style) {
     switch (style & kButtonsMask) {
         case vx::kMbOkCancel:
-            return {kOk, kCancel};
+            return Labelled({kOk, kCancel});
         case vx::kMbAbortRetryIgnore:
-            return {kAbort, kRetry, kIgnore};
+            return Labelled({kAbort, kRetry, kIgnore});
         case vx::kMbYesNoCancel:
-            return {kYes, kNo, kCancel};
+            return Labelled({kYes, kNo, kCancel});
         case vx::kMbYesNo:
-            return {kYes, kNo};
+            return Labelled({kYes, kNo});
         case vx::kMbRetryCancel:
-            return {kRetry, kCancel};
+            return Labelled({kRetry, kCancel});
         case vx::kMbCancelTryContinue:
-            return {kCancel, kTryAgain, kContinue};
+            return Labelled({kCancel, kTryAgain, kContinue});
         default:
-            return {kOk};
+            return Labelled({kOk});
     }
 }
 
@@ -64,10 +85,11 @@ int RUserPrompt::DefaultAnswer(unsigned style) {
 int RDefaultUserPrompt::Show(vx::WindowHandle, const char* text, const char* caption,
                              unsigned style) {
     const int answer = DefaultAnswer(style);
-    const char* label = "";
+    std::string label;
     for (const vx::PromptButton& button : Buttons(style))
         if (button.id == answer) label = button.label;
     if (caption != nullptr) std::fprintf(stderr, "%s: ", caption);
-    std::fprintf(stderr, "%s\n[answered: %s]\n", text != nullptr ? text : "", label);
+    std::fprintf(stderr, "%s\n%s\n", text != nullptr ? text : "",
+                 vx::LoadMessageText(vx::kStrAnswered, {label}).c_str());
     return answer;
 }

@@ -76,7 +76,7 @@ int QtUserPrompt::Show(WindowHandle parent, const char* text, const char* captio
             standard != QMessageBox::NoButton) {
             added = box.addButton(standard);
         } else {
-            added = box.addButton(ToQString(button.label), QMessageBox::AcceptRole);
+            added = box.addButton(ToQString(button.label.c_str()), QMessageBox::AcceptRole);
         }
         answers.emplace_back(added, button.id);
         if (button.id == defaultAnswer) box.setDefaultButton(qobject_cast<QPushButton*>(added));
