@@ -18,28 +18,13 @@ target_compile_definitions(vxutil_widgets_objects PRIVATE VXUTIL_WIDGETS_BUILDIN
 target_link_libraries(vxutil_widgets_objects PUBLIC Qt6::Widgets)
 vxutil_apply_compiler_settings(vxutil_widgets_objects)
 
-add_library(vxutil_widgets SHARED $<TARGET_OBJECTS:vxutil_widgets_objects>)
+add_library(vxutil_widgets SHARED)
 add_library(vxutil::widgets ALIAS vxutil_widgets)
-target_include_directories(vxutil_widgets PUBLIC
-  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
-  $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-target_link_libraries(vxutil_widgets PUBLIC vxutil Qt6::Widgets)
+target_link_libraries(vxutil_widgets PRIVATE vxutil_widgets_objects PUBLIC vxutil Qt6::Widgets)
 set_target_properties(vxutil_widgets PROPERTIES VERSION ${PROJECT_VERSION}
                                                 SOVERSION ${PROJECT_VERSION_MAJOR})
 vxutil_apply_link_settings(vxutil_widgets)
 
-add_library(vxutil_widgets_static STATIC $<TARGET_OBJECTS:vxutil_widgets_objects>)
-target_include_directories(vxutil_widgets_static PUBLIC ${PROJECT_SOURCE_DIR}/include
-                                                        ${PROJECT_SOURCE_DIR}/src)
-target_link_libraries(vxutil_widgets_static PUBLIC vxutil_static Qt6::Widgets)
-
-install(TARGETS vxutil_widgets EXPORT vxutilWidgetsTargets
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(EXPORT vxutilWidgetsTargets NAMESPACE vxutil::
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vxutil)
-configure_file(${PROJECT_SOURCE_DIR}/cmake/vxutil_widgets.pc.in
-               ${CMAKE_CURRENT_BINARY_DIR}/vxutil_widgets.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/vxutil_widgets.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+add_library(vxutil_widgets_static STATIC)
+target_link_libraries(vxutil_widgets_static PUBLIC vxutil_widgets_objects vxutil_static)
+target_include_directories(vxutil_widgets_static PUBLIC ${PROJECT_SOURCE_DIR}/src)

@@ -20,8 +20,6 @@ source "$here/stages/linux.sh"
 } >&2 || exit 1
 
 export VX_CONFIG_HOME="${VX_CONFIG_HOME:-$VX_ROOT/.home}"
-# The catalogues of the build, so that LANGUAGE=de shows the dialogs in German.
-export VX_LOCALEDIR="${VX_LOCALEDIR:-$VX_LINUX_DIR/locale}"
 mkdir -p "$VX_CONFIG_HOME"
 vxdemo="$VX_LINUX_DIR/tools/vxdemo/vxdemo"
 if [ $# -eq 0 ] && [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then

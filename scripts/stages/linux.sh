@@ -27,5 +27,6 @@ stage_linux() {
     vx_check_core_is_toolkit_free &&
         vx_configure "$VX_LINUX_DIR" "${VX_LINUX_OPTIONS[@]}" &&
         vx_build "$VX_LINUX_DIR" &&
+        vx_build "$VX_LINUX_DIR" vxutil_verify_interface_header_sets &&
         vx_ctest "$VX_LINUX_DIR" 300
 }

@@ -3,9 +3,9 @@
 #include "appenv/AppEnvTrace.h"
 #include "appenv/SettingsFile.h"
 #include "appenv/UserRegistry.h"
+#include "gnrt/MultiByte.h"
 #include "platform/profile/ProfileEdit.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/gnrt/MultiByte.h"
 #include "vxutil/login/OSUserName.h"
 #include "vxutil/platform/ProfileFile.h"
 

@@ -5,9 +5,9 @@
 
 #include "appenv/AppEnvTrace.h"
 #include "appenv/ServerFile.h"
+#include "gnrt/MultiByte.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/foundation/CVXServerNameList.h"
-#include "vxutil/gnrt/MultiByte.h"
 
 using namespace vx::appenv;
 

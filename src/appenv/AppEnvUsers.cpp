@@ -10,8 +10,8 @@
 #include "appenv/AppEnvTrace.h"
 #include "appenv/LegacyUsers.h"
 #include "appenv/UserRegistry.h"
+#include "gnrt/MultiByte.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/gnrt/MultiByte.h"
 
 using namespace vx::appenv;
 

@@ -1,7 +1,7 @@
 #include "appenv/LegacyUsers.h"
 
 #include "appenv/UserRegistry.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 #include "vxutil/platform/LegacyProfile.h"
 
 namespace vx::appenv {

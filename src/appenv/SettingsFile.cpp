@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "gnrt/MultiByte.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/gnrt/FilePath.h"
-#include "vxutil/gnrt/MultiByte.h"
 #include "vxutil/platform/ProfileFile.h"
 
 namespace vx::appenv {

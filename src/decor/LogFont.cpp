@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "decor/NumberList.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx {
 namespace {

@@ -1,6 +1,6 @@
 #include "vxutil/foundation/CVXFixedName.h"
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx::names {
 

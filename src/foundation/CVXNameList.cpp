@@ -1,7 +1,7 @@
 #include "vxutil/foundation/CVXNameList.h"
 
 #include "foundation/RecordLists.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 CVXNameList::CVXNameList(const VXNameList& record) {
     *this = record;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "foundation/Number32.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx::definition {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace {
 

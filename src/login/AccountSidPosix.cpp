@@ -1,5 +1,3 @@
-#ifndef _WIN32
-
 #include <unistd.h>
 
 #include "login/SidText.h"
@@ -20,5 +18,3 @@ int ClientGetBinarySid(void** sid) {
     *sid = buffer;
     return 1;
 }
-
-#endif

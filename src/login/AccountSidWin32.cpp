@@ -1,5 +1,3 @@
-#ifdef _WIN32
-
 #include <windows.h>
 
 #include "vxutil/login/AccountSid.h"
@@ -16,5 +14,3 @@ int ClientGetBinarySid(void** sid) {
     *sid = reinterpret_cast<TOKEN_USER*>(buffer)->User.Sid;
     return 1;
 }
-
-#endif

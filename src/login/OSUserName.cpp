@@ -1,6 +1,6 @@
 #include "vxutil/login/OSUserName.h"
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 #ifdef _WIN32
 #include <windows.h>

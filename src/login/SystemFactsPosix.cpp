@@ -1,5 +1,3 @@
-#ifndef _WIN32
-
 #include <netinet/in.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -88,5 +86,3 @@ SystemFacts GatherSystemFacts() {
 }
 
 }  // namespace vx
-
-#endif

@@ -1,5 +1,3 @@
-#ifdef _WIN32
-
 // winsock2.h must come before windows.h, which would otherwise pull in the old winsock.h.
 #include <winsock2.h>
 
@@ -88,5 +86,3 @@ SystemFacts GatherSystemFacts() {
 }
 
 }  // namespace vx
-
-#endif

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "AppEnvTest.h"
+#include "gnrt/MultiByte.h"
 #include "vxutil/appenv/CAppEnv.h"
-#include "vxutil/gnrt/MultiByte.h"
 #include "vxutil/login/OSUserName.h"
 
 namespace {

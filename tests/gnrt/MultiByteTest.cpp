@@ -1,4 +1,4 @@
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 #include <cstring>
 #include <string>

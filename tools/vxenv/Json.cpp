@@ -5,7 +5,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 #endif
 
 namespace vxenv {

@@ -7,9 +7,12 @@
 #include <vector>
 
 #include "vxutil/export.h"
-#include "vxutil/runtime/MessageBackend.h"
 
 class RMessagePump;
+namespace vx {
+class MessageQueue;
+class TimerSource;
+}  // namespace vx
 
 class VXUTIL_API RMessageStation {
 public:

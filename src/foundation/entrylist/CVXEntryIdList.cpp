@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "foundation/GNListElements.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 using vx::elements::At;
 

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "foundation/value/EncodedFields.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 CVXEntryListFieldStruct::CVXEntryListFieldStruct(const VXEntryListFieldStruct& record)
     : m_nFieldId(record.fieldId), m_nColumnWidth(record.columnWidth) {

@@ -1,6 +1,6 @@
 #include "vxutil/foundation/CVXEntryListStruct.h"
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 CVXEntryListStruct::CVXEntryListStruct(const VXEntryListStruct& record)
     : m_entryId(record.entryId),

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx::qualifier {
 namespace {

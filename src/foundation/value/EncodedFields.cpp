@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "foundation/Number32.h"
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx::encoded {
 

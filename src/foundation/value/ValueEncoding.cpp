@@ -7,9 +7,9 @@
 #include "foundation/Number32.h"
 #include "foundation/value/EncodedFields.h"
 #include "foundation/value/RealText.h"
+#include "gnrt/MultiByte.h"
 #include "vxutil/foundation/CVXValueStruct.h"
 #include "vxutil/gnrt/CGNAssert.h"
-#include "vxutil/gnrt/MultiByte.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "vxutil/login/LoginField.h"
 
-#include "vxutil/gnrt/MultiByte.h"
+#include "gnrt/MultiByte.h"
 
 namespace vx {
 

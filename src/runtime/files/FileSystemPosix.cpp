@@ -1,5 +1,3 @@
-#ifndef _WIN32
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -141,5 +139,3 @@ bool StoredName(const std::string& folder, const std::string& name, std::string&
 }
 
 }  // namespace vx
-
-#endif

@@ -1,5 +1,3 @@
-#ifdef _WIN32
-
 #include <windows.h>
 
 #include "runtime/files/FileSystem.h"
@@ -87,5 +85,3 @@ bool StoredName(const std::string& folder, const std::string& name, std::string&
 }
 
 }  // namespace vx
-
-#endif

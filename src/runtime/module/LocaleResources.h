@@ -1,7 +1,7 @@
 // The localized resource library of the module: on Windows a resource DLL in a per-language
 // folder beside the module, loaded as data; on POSIX a gettext message catalogue in the
-// per-language folder under the install prefix's locale folder ($VX_LOCALEDIR instead, when
-// set), whose domain is the resource library's name.
+// per-language folder of the locale folder of the prefix the module is installed in
+// ($VX_LOCALEDIR instead, when set), whose domain is the resource library's name.
 #pragma once
 
 #include <memory>

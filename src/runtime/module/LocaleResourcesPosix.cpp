@@ -1,11 +1,10 @@
-#ifndef _WIN32
-
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include "runtime/module/LocaleResources.h"
 #include "runtime/module/MoCatalogue.h"
+#include "runtime/module/ResourceName.h"
 
 namespace vx {
 namespace {
@@ -38,9 +37,14 @@ std::string Environment(const char* name) {
     return value != nullptr ? value : "";
 }
 
-std::string LocaleFolder() {
-    std::string folder = Environment("VX_LOCALEDIR");
-    return folder.empty() ? VXUTIL_LOCALEDIR : folder;
+// $VX_LOCALEDIR when set; else the locale folder of the prefix the library is installed in, then
+// a "locale" folder beside the library, where the build tree keeps its catalogues. Nothing
+// depends on where the library was meant to be installed when it was built.
+std::vector<std::string> LocaleFolders(const std::string& modulePath) {
+    const std::string chosen = Environment("VX_LOCALEDIR");
+    if (!chosen.empty()) return {chosen};
+    const std::string folder(ModuleFolder(modulePath));
+    return {folder + VXUTIL_LOCALEDIR_FROM_LIBDIR, folder + "locale"};
 }
 
 bool ReadCatalogue(const std::string& path, MoCatalogue& catalogue) {
@@ -90,19 +94,20 @@ std::vector<std::string> PreferredLanguages() {
     return languages;
 }
 
-std::unique_ptr<LocaleResources> OSAttachLocaleResDLL(const std::string&,
+std::unique_ptr<LocaleResources> OSAttachLocaleResDLL(const std::string& modulePath,
                                                       const std::string& resourceName,
                                                       const std::vector<std::string>& languages) {
-    const std::string folder = LocaleFolder();
+    const std::vector<std::string> folders = LocaleFolders(modulePath);
     for (const std::string& language : languages) {
-        const std::string path = folder + "/" + language + "/LC_MESSAGES/" + resourceName + ".mo";
-        MoCatalogue catalogue;
-        if (ReadCatalogue(path, catalogue))
-            return std::make_unique<CatalogueResources>(path, language, std::move(catalogue));
+        for (const std::string& folder : folders) {
+            const std::string path =
+                folder + "/" + language + "/LC_MESSAGES/" + resourceName + ".mo";
+            MoCatalogue catalogue;
+            if (ReadCatalogue(path, catalogue))
+                return std::make_unique<CatalogueResources>(path, language, std::move(catalogue));
+        }
     }
     return nullptr;
 }
 
 }  // namespace vx
-
-#endif

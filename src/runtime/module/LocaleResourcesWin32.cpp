@@ -1,11 +1,9 @@
-#ifdef _WIN32
-
 #include <windows.h>
 
 #include <cstring>
 
-#include "runtime/files/FileSystem.h"
 #include "runtime/module/LocaleResources.h"
+#include "runtime/module/ResourceName.h"
 
 namespace vx {
 namespace {
@@ -73,10 +71,7 @@ std::vector<std::string> PreferredLanguages() {
 std::unique_ptr<LocaleResources> OSAttachLocaleResDLL(const std::string& modulePath,
                                                       const std::string& resourceName,
                                                       const std::vector<std::string>& languages) {
-    std::size_t folderEnd = modulePath.size();
-    while (folderEnd > 0 && !IsSeparator(modulePath[folderEnd - 1]))
-        --folderEnd;
-    const std::string folder = modulePath.substr(0, folderEnd);
+    const std::string folder(ModuleFolder(modulePath));
     for (const std::string& language : languages) {
         const std::string path = folder + language + "\\" + resourceName;
         HMODULE module = ::LoadLibraryExA(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
@@ -86,5 +81,3 @@ std::unique_ptr<LocaleResources> OSAttachLocaleResDLL(const std::string& moduleP
 }
 
 }  // namespace vx
-
-#endif

@@ -1,7 +1,5 @@
 // The shared object's load and unload hooks. Nothing refers to this file, so it is part of the
 // shared library only: programs that link the static archive load the module themselves.
-#ifndef _WIN32
-
 #include <dlfcn.h>
 
 #include <climits>
@@ -9,19 +7,22 @@
 #include <string>
 
 #include "runtime/module/Module.h"
+#include "runtime/module/ResourceName.h"
 
 namespace {
 
 const char kAnchor = 0;  // an object of this module, to ask the loader about
 
-// The real file of the shared object, so that the name is the same however it was loaded
-// (through the soname or the development link).
+// The shared object as its soname in the folder of its real file: the same however it was
+// loaded (through the soname or the development link), and the same across the patch releases
+// of one major version, so that the localized catalogue keeps its name.
 std::string ModulePath(void*& base) {
     Dl_info info{};
     if (::dladdr(&kAnchor, &info) == 0 || info.dli_fname == nullptr) return {};
     base = info.dli_fbase;
     char resolved[PATH_MAX];
-    return ::realpath(info.dli_fname, resolved) != nullptr ? resolved : info.dli_fname;
+    const char* file = ::realpath(info.dli_fname, resolved) != nullptr ? resolved : info.dli_fname;
+    return std::string(vx::ModuleFolder(file)) + VXUTIL_MODULE_NAME;
 }
 
 __attribute__((constructor)) void OnLoad() {
@@ -35,5 +36,3 @@ __attribute__((destructor)) void OnUnload() {
 }
 
 }  // namespace
-
-#endif

@@ -1,7 +1,5 @@
 // The DLL's entry point. Nothing refers to this file, so it is part of the DLL only: programs
 // that link the static archive load the module themselves.
-#ifdef _WIN32
-
 #include <windows.h>
 
 #include <string>
@@ -17,5 +15,3 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_DETACH) vx::UnloadModule();
     return TRUE;  // thread attach and detach need nothing
 }
-
-#endif

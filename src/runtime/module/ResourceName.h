@@ -1,4 +1,5 @@
-// The file name of a module's localized resource library.
+// Where a module's localized resources are found: the file name of its resource library, and the
+// folder the search starts from.
 #pragma once
 
 #include <string>
@@ -10,5 +11,9 @@ namespace vx {
 // decimal digit, or appended when there is none: "abc40.dll" gives "abcRes40.dll", so the
 // version digits stay behind the inserted text.
 std::string LocalizedResourceName(std::string_view modulePath);
+
+// The folder of `modulePath` with its trailing separator ("/usr/lib/" of "/usr/lib/libx.so");
+// empty for a bare file name.
+std::string_view ModuleFolder(std::string_view modulePath);
 
 }  // namespace vx

@@ -1,4 +1,4 @@
-#include "vxutil/runtime/LocalMessageQueue.h"
+#include "runtime/pump/LocalMessageQueue.h"
 
 #include <algorithm>
 

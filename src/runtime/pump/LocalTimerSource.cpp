@@ -1,4 +1,4 @@
-#include "vxutil/runtime/LocalTimerSource.h"
+#include "runtime/pump/LocalTimerSource.h"
 
 #include <algorithm>
 

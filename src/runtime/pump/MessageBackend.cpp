@@ -1,6 +1,6 @@
-#include "vxutil/runtime/MessageBackend.h"
+#include "runtime/pump/MessageBackend.h"
 
-#include "vxutil/runtime/LocalMessageQueue.h"
+#include "runtime/pump/LocalMessageQueue.h"
 
 namespace vx {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "vxutil/runtime/MessageBackend.h"
+#include "runtime/pump/MessageBackend.h"
 
 namespace vx {
 

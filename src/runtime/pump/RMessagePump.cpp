@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "runtime/pump/MessageBackend.h"
 #include "vxutil/runtime/RMessageStation.h"
 
 namespace {

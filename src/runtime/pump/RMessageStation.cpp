@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 
+#include "runtime/pump/MessageBackend.h"
 #include "vxutil/runtime/RMessagePump.h"
 
 namespace {

@@ -1,5 +1,3 @@
-#ifdef _WIN32
-
 #include "runtime/pump/Win32MessageBackend.h"
 
 #include <windows.h>
@@ -85,5 +83,3 @@ void Win32TimerSource::Destroy() {
 }
 
 }  // namespace vx
-
-#endif

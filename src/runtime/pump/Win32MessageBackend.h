@@ -2,9 +2,7 @@
 // pop-up window that deliver WM_TIMER to the station. Windows only.
 #pragma once
 
-#ifdef _WIN32
-
-#include "vxutil/runtime/MessageBackend.h"
+#include "runtime/pump/MessageBackend.h"
 
 namespace vx {
 
@@ -32,5 +30,3 @@ private:
 };
 
 }  // namespace vx
-
-#endif

@@ -10,7 +10,7 @@
 #include <QObject>
 #include <map>
 
-#include "vxutil/runtime/MessageBackend.h"
+#include "runtime/pump/MessageBackend.h"
 
 namespace vx {
 

@@ -1,17 +1,20 @@
 #include "runtime/module/Module.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "runtime/module/ResourceName.h"
 #include "support/TempHome.h"
+#include "vxutil/decimal/TKxmsg.h"
 #include "vxutil/gnrt/OSLoadString.h"
 #include "vxutil/runtime/RMessagePump.h"
 #include "vxutil/runtime/RMessageStation.h"
 #include "vxutil/runtime/RModule.h"
 #include "vxutil/runtime/RTrace.h"
+#include "vxutil/runtime/RUserPrompt.h"
 #include "vxutil/runtime/WindowMessages.h"
 
 namespace {
@@ -88,11 +91,12 @@ TEST_F(ModuleTest, UnloadStopsThePumpsStillStarted) {
     EXPECT_EQ(pump.Start(), 0);  // no station without the module
 }
 
-// The German texts the build ships, found where an installed library would find them.
+// The German texts the build ships, found from the library's own folder as an installed
+// library finds them.
 TEST_F(ModuleTest, AttachedLanguageTranslatesTheStringTable) {
 #ifndef _WIN32
     if (std::string(VXUTIL_TEST_LOCALEDIR).empty()) GTEST_SKIP() << "built without msgfmt";
-    SetEnvironment("VX_LOCALEDIR", VXUTIL_TEST_LOCALEDIR);
+    SetEnvironment("VX_LOCALEDIR", "");
 #endif
     ASSERT_EQ(vx::LoadModule(VXUTIL_TEST_MODULE_PATH, &moduleAnchor, {"fr_FR", "fr", "de"}), 1);
     const vx::LocaleResources* resources = vx::ModuleLocaleResources();
@@ -109,8 +113,22 @@ TEST_F(ModuleTest, AttachedLanguageTranslatesTheStringTable) {
     EXPECT_EQ(Text(3055), "%1\n\nDieser Ordner existiert nicht - erstellen?");
     EXPECT_EQ(Text(3058), "");  // unknown everywhere
 
+    // Questions offer German answers, and the decimal subsystem reports in German: every
+    // translation of its messages keeps the English text's conversions, or it would not be used.
+    const std::vector<vx::PromptButton> buttons = RUserPrompt::Buttons(vx::kMbYesNo);
+    ASSERT_EQ(buttons.size(), 2u);
+    EXPECT_EQ(buttons[0].label, "Ja");
+    EXPECT_EQ(buttons[1].label, "Nein");
+    const std::string overflow = TKMakeMessage(tkdcml::kAddOver, "TKDecimal").why();
+    EXPECT_EQ(overflow.rfind("[ADDOVER] TKDecimal: ", 0), 0u) << overflow;
+    EXPECT_NE(overflow.find("berlauf bei der Addition"), std::string::npos) << overflow;
+    for (const TKMessage* message : TKMessageCatalogue())
+        if (std::string_view(message->domain) == tkdcml::kDomain)
+            EXPECT_NE(TKMessageFormat(*message), message->text) << message->text;
+
     vx::UnloadModule();
     EXPECT_EQ(Text(3055), kEnglishQuestion);
+    EXPECT_EQ(RUserPrompt::Buttons(vx::kMbYesNo)[0].label, "Yes");
 }
 
 TEST(ResourceNameTest, ResGoesBeforeTheFirstDigitOrAtTheEnd) {
@@ -124,6 +142,7 @@ TEST(ResourceNameTest, ResGoesBeforeTheFirstDigitOrAtTheEnd) {
         {"9lives.dll", "Res9lives.dll"},
         {"dir2/abc.dll", "abc.dllRes"},  // digits of folders do not count
         {"trailing/", "Res"},
+        {"libvxutil.so.0", "libvxutil.so.Res0"},  // the soname: the same for every patch release
 #ifdef _WIN32
         // Both separators end the folder on Windows.
         {"C:\\Program Files\\VX2\\vxutil.dll", "vxutil.dllRes"},

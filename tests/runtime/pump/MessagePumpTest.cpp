@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "vxutil/runtime/LocalMessageQueue.h"
-#include "vxutil/runtime/LocalTimerSource.h"
+#include "runtime/pump/LocalMessageQueue.h"
+#include "runtime/pump/LocalTimerSource.h"
 #include "vxutil/runtime/RMessageStation.h"
 #include "vxutil/runtime/RVisualPump.h"
 #include "vxutil/runtime/WindowMessages.h"

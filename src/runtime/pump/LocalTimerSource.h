@@ -6,9 +6,9 @@
 #include <chrono>
 #include <vector>
 
+#include "runtime/pump/LocalMessageQueue.h"
+#include "runtime/pump/MessageBackend.h"
 #include "vxutil/export.h"
-#include "vxutil/runtime/LocalMessageQueue.h"
-#include "vxutil/runtime/MessageBackend.h"
 
 namespace vx {
 

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <deque>
 
+#include "runtime/pump/MessageBackend.h"
 #include "vxutil/export.h"
-#include "vxutil/runtime/MessageBackend.h"
 
 namespace vx {
 

@@ -1,14 +1,9 @@
-#include "runtime/prompt/PlatformUserPrompt.h"
-
-#ifdef _WIN32
 #include <windows.h>
 
+#include "runtime/prompt/PlatformUserPrompt.h"
 #include "vxutil/platform/RApplication.h"
-#endif
 
 namespace vx {
-
-#ifdef _WIN32
 namespace {
 
 // Captioned, unless the caller names a caption, with the client tool's name, as the
@@ -29,11 +24,5 @@ RUserPrompt& PlatformUserPrompt() {
     static MessageBoxPrompt prompt;
     return prompt;
 }
-#else
-RUserPrompt& PlatformUserPrompt() {
-    static RDefaultUserPrompt prompt;
-    return prompt;
-}
-#endif
 
 }  // namespace vx

@@ -1,12 +1,8 @@
+#include <windows.h>
+
 #include "runtime/lock/PlatformWindowLocker.h"
 
-#ifdef _WIN32
-#include <windows.h>
-#endif
-
 namespace vx {
-
-#ifdef _WIN32
 namespace {
 
 class Win32WindowLocker : public WindowUpdateLocker {
@@ -23,10 +19,5 @@ WindowUpdateLocker* PlatformWindowLocker() {
     static Win32WindowLocker locker;
     return &locker;
 }
-#else
-WindowUpdateLocker* PlatformWindowLocker() {
-    return nullptr;
-}
-#endif
 
 }  // namespace vx
