@@ -124,5 +124,5 @@ for program in "${programs[@]}"; do
         </dev/null || status=1
 done
 vx_banner "standing ($target, this run)"
-python3 "$here/lib/bench_summary.py" "$results"
+python3 "$here/lib/bench_summary.py" "$results" "$target"
 exit $status
