@@ -12,15 +12,13 @@
 
 #include "Commands.h"
 #include "Json.h"
+#include "gnrt/StringTable.h"
 #include "vxutil/runtime/MessageText.h"
 #include "vxutil/runtime/RUserPrompt.h"
 #include "vxutil/runtime/RUtils.h"
 
 namespace vxenv {
 namespace {
-
-// The library's message about a folder copy that was not complete.
-constexpr unsigned kCopyFailedMessage = 3057;
 
 bool StandardInputIsTerminal() {
 #ifdef _WIN32
@@ -101,7 +99,7 @@ int Copy(Context& context, Args& args) {
     const bool recurse = args.Has("--recurse");
     if (!context.CheckCount(args, 2, 2, code)) return code;
     if (RCopyDirectory(args[0].c_str(), args[1].c_str(), recurse ? 1 : 0)) return kOk;
-    return context.Fail(vx::LoadMessageText(kCopyFailedMessage, {args[0], args[1]}).view());
+    return context.Fail(vx::LoadMessageText(vx::kStrFolderCopyFailed, {args[0], args[1]}).view());
 }
 
 int Case(Context& context, Args& args) {
