@@ -1,4 +1,4 @@
-#include "vxutil/decimal/NumericLocaleScope.h"
+#include "decimal/NumericLocaleScope.h"
 
 #include <clocale>
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "vxutil/decimal/NumericLocaleScope.h"
+#include "decimal/NumericLocaleScope.h"
 #include "vxutil/decimal/TKErrorHandlers.h"
 #include "vxutil/decimal/TKExternalErr.h"
 

@@ -6,8 +6,8 @@
 
 #include "CommaLocale.h"
 #include "DecimalTestSupport.h"
+#include "decimal/NumericLocaleScope.h"
 #include "support/TempHome.h"
-#include "vxutil/decimal/NumericLocaleScope.h"
 
 namespace {
 

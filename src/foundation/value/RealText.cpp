@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "vxutil/decimal/NumericLocaleScope.h"
+#include "decimal/NumericLocaleScope.h"
 
 namespace vx::value {
 namespace {
