@@ -1,8 +1,9 @@
-// The helpers common to every character set, over the platform's CharLength
-// (MultiByteUtf8Posix.cpp, MultiByteAnsiWin32.cpp).
+// The helpers common to every character set, over the platform's own (MultiByteCharset.h).
 #include "gnrt/MultiByte.h"
 
 #include <cstring>
+
+#include "gnrt/MultiByteCharset.h"
 
 namespace vx::mb {
 namespace {
@@ -12,6 +13,17 @@ namespace {
 constexpr std::size_t kUnbounded = 4;
 
 }  // namespace
+
+std::size_t CharLength(const char* text, std::size_t available) {
+    if (text == nullptr || available == 0) {
+        return 0;
+    }
+    return CharsetLength(reinterpret_cast<const unsigned char*>(text), available);
+}
+
+int Collate(const char* a, const char* b) {
+    return CharsetCollate(a != nullptr ? a : "", b != nullptr ? b : "");
+}
 
 std::size_t CharCount(const char* text, std::size_t length) {
     std::size_t count = 0;

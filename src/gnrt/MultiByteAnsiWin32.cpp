@@ -3,12 +3,11 @@
 
 #include <cstring>
 
-#include "gnrt/MultiByte.h"
+#include "gnrt/MultiByteCharset.h"
 
 namespace vx::mb {
-namespace {
 
-std::size_t DecodeLength(const unsigned char* text, std::size_t available) {
+std::size_t CharsetLength(const unsigned char* text, std::size_t available) {
     // A lead byte followed by the terminator (or by nothing) is a stray byte, not a character.
     if (available >= 2 && text[1] != 0 && IsDBCSLeadByteEx(CP_ACP, text[0])) {
         return 2;
@@ -16,22 +15,7 @@ std::size_t DecodeLength(const unsigned char* text, std::size_t available) {
     return 1;
 }
 
-}  // namespace
-
-std::size_t CharLength(const char* text, std::size_t available) {
-    if (text == nullptr || available == 0) {
-        return 0;
-    }
-    return DecodeLength(reinterpret_cast<const unsigned char*>(text), available);
-}
-
-int Collate(const char* a, const char* b) {
-    if (a == nullptr) {
-        a = "";
-    }
-    if (b == nullptr) {
-        b = "";
-    }
+int CharsetCollate(const char* a, const char* b) {
     const int result = CompareStringA(LOCALE_USER_DEFAULT, 0, a, -1, b, -1);
     if (result != 0) {
         return result - CSTR_EQUAL;

@@ -1,7 +1,7 @@
 // UTF-8: a character is a code point.
 #include <cstring>
 
-#include "gnrt/MultiByte.h"
+#include "gnrt/MultiByteCharset.h"
 
 namespace vx::mb {
 namespace {
@@ -10,9 +10,11 @@ bool IsTrail(unsigned char b) {
     return (b & 0xC0) == 0x80;
 }
 
+}  // namespace
+
 // Length of the well-formed UTF-8 sequence at `text` (RFC 3629: no overlong forms, no
 // surrogates, nothing above U+10FFFF), or 1 when the bytes form none.
-std::size_t DecodeLength(const unsigned char* text, std::size_t available) {
+std::size_t CharsetLength(const unsigned char* text, std::size_t available) {
     const unsigned char lead = text[0];
     if (lead < 0x80) {
         return 1;
@@ -50,22 +52,7 @@ std::size_t DecodeLength(const unsigned char* text, std::size_t available) {
     return length;
 }
 
-}  // namespace
-
-std::size_t CharLength(const char* text, std::size_t available) {
-    if (text == nullptr || available == 0) {
-        return 0;
-    }
-    return DecodeLength(reinterpret_cast<const unsigned char*>(text), available);
-}
-
-int Collate(const char* a, const char* b) {
-    if (a == nullptr) {
-        a = "";
-    }
-    if (b == nullptr) {
-        b = "";
-    }
+int CharsetCollate(const char* a, const char* b) {
     return std::strcoll(a, b);
 }
 
