@@ -18,10 +18,29 @@ Record* NewRecord() {
 using Link = std::unique_ptr<CVXQualifierStruct> CVXQualifierStruct::*;
 
 // A step of a walk that writes text: a node to expand, or a piece of text to append.
+// One step of writing a tree's text: a node to write, or (node null) a text to append.
 struct TextStep {
     const CVXQualifierStruct* node;
     const char* text;
 };
+
+// Writes a tree's text in one pass and without recursion, so that its cost follows the size of
+// the tree whatever its depth: `write` appends a node's own text to `out` and pushes what follows
+// it, last first. False as soon as `write` fails.
+template <class Write>
+bool WriteTree(const CVXQualifierStruct* root, CGNString& out, Write write) {
+    out.Empty();
+    std::vector<TextStep> pending{{root, nullptr}};
+    while (!pending.empty()) {
+        const TextStep step = pending.back();
+        pending.pop_back();
+        if (step.node == nullptr)
+            out += step.text;
+        else if (!write(*step.node, pending))
+            return false;
+    }
+    return true;
+}
 
 }  // namespace
 
@@ -239,74 +258,59 @@ void CVXQualifierStruct::FreeRecord(VXQualifierStruct& record) {
 }
 
 void CVXQualifierStruct::ToText(CGNString& out) const {
-    out.Empty();
     CGNString relation;
-    std::vector<TextStep> pending{{this, nullptr}};
-    while (!pending.empty()) {
-        const TextStep step = pending.back();
-        pending.pop_back();
-        if (step.node == nullptr) {
-            out += step.text;
-            continue;
-        }
-        switch (step.node->m_nOperation) {
+    WriteTree(this, out, [&](const CVXQualifierStruct& node, std::vector<TextStep>& pending) {
+        switch (node.m_nOperation) {
             case VX_COND_AND:
             case VX_COND_OR:  // "a AND b "
                 pending.push_back({nullptr, " "});
-                pending.push_back({step.node->m_pRight.get(), nullptr});
-                pending.push_back(
-                    {nullptr, step.node->m_nOperation == VX_COND_AND ? " AND " : " OR "});
-                pending.push_back({step.node->m_pLeft.get(), nullptr});
+                pending.push_back({node.m_pRight.get(), nullptr});
+                pending.push_back({nullptr, node.m_nOperation == VX_COND_AND ? " AND " : " OR "});
+                pending.push_back({node.m_pLeft.get(), nullptr});
                 break;
             case VX_COND_NOT:  // " NOT a "
                 out += " NOT ";
                 pending.push_back({nullptr, " "});
-                pending.push_back({step.node->m_pNot.get(), nullptr});
+                pending.push_back({node.m_pNot.get(), nullptr});
                 break;
             case VX_COND_OPERATION:
-                step.node->m_pRelation->ToText(relation);
+                node.m_pRelation->ToText(relation);
                 out += relation;
                 break;
             default:
                 break;
         }
-    }
+        return true;
+    });
 }
 
 bool CVXQualifierStruct::Encode(CGNString& out) const {
-    out.Empty();
     CGNString relation;
-    std::vector<TextStep> pending{{this, nullptr}};
-    while (!pending.empty()) {
-        const TextStep step = pending.back();
-        pending.pop_back();
-        if (step.node == nullptr) {
-            out += step.text;
-            continue;
-        }
-        vx::number32::AppendUnsigned(out, step.node->m_nOperation);
-        switch (step.node->m_nOperation) {
-            case VX_COND_AND:
-            case VX_COND_OR:
-                out += '\\';
-                pending.push_back({step.node->m_pRight.get(), nullptr});
-                pending.push_back({nullptr, "\\"});
-                pending.push_back({step.node->m_pLeft.get(), nullptr});
-                break;
-            case VX_COND_NOT:
-                out += '\\';
-                pending.push_back({step.node->m_pNot.get(), nullptr});
-                break;
-            case VX_COND_OPERATION:
-                if (!step.node->m_pRelation->Encode(relation)) return false;
-                out += '\\';
-                out += relation;
-                break;
-            default:
-                break;
-        }
-    }
-    return true;
+    return WriteTree(this, out,
+                     [&](const CVXQualifierStruct& node, std::vector<TextStep>& pending) {
+                         vx::number32::AppendUnsigned(out, node.m_nOperation);
+                         switch (node.m_nOperation) {
+                             case VX_COND_AND:
+                             case VX_COND_OR:
+                                 out += '\\';
+                                 pending.push_back({node.m_pRight.get(), nullptr});
+                                 pending.push_back({nullptr, "\\"});
+                                 pending.push_back({node.m_pLeft.get(), nullptr});
+                                 break;
+                             case VX_COND_NOT:
+                                 out += '\\';
+                                 pending.push_back({node.m_pNot.get(), nullptr});
+                                 break;
+                             case VX_COND_OPERATION:
+                                 if (!node.m_pRelation->Encode(relation)) return false;
+                                 out += '\\';
+                                 out += relation;
+                                 break;
+                             default:
+                                 break;
+                         }
+                         return true;
+                     });
 }
 
 bool CVXQualifierStruct::Decode(const char*& cursor) {
