@@ -36,14 +36,17 @@ RATIOS = [
     for action in ("decode", "encode")
 ]
 
-# (label, benchmark, time field, limit in ns or None): settings-store figures.
+# (label, benchmark, time field, limit in ns or None, anchor or None): settings-store figures.
+# A cached read is shown beside one stat() of the same file, the system call every read makes
+# to see another process's change: on a machine where that call alone is slow, the limit says
+# more about the machine than about the store.
 STORE = [
-    ("GetListOfUsers, 1,000 users", "GetListOfUsers/1000", "cpu_time", 1e6),
+    ("GetListOfUsers, 1,000 users", "GetListOfUsers/1000", "cpu_time", 1e6, None),
     ("FindHomeDirectory of the last of 1,000", "FindHomeDirectoryOfTheLastUser/1000", "cpu_time",
-     0.3e6),
-    ("one cached profile read (ReadCached)", "ReadCached", "cpu_time", 1e3),
-    ("AddUser, 1,000 users", "AddUser/1000", "real_time", None),
-    ("DeleteUser, 1,000 users", "DeleteUser/1000", "real_time", None),
+     0.3e6, None),
+    ("one cached profile read (ReadCached)", "ReadCached", "cpu_time", 1e3, "StatOfTheFile"),
+    ("AddUser, 1,000 users", "AddUser/1000", "real_time", None, None),
+    ("DeleteUser, 1,000 users", "DeleteUser/1000", "real_time", None, None),
 ]
 
 
@@ -112,15 +115,16 @@ def main():
         target = f">= {goal:g}x" if timed else f">= {goal:.0%}"
         rows.append((label, show(mine), f"{anchor_name} {show(theirs)}", standing, target,
                      verdict(ratio, ratio is not None and ratio >= goal)))
-    for label, name, field, limit in STORE:
+    for label, name, field, limit, anchor in STORE:
         mine = figure(runs, name, field)
+        beside = f"stat() {time_text(figure(runs, anchor, field))}" if anchor else ""
         if limit is None:
-            rows.append((label, time_text(mine), "", "", "-", ""))
+            rows.append((label, time_text(mine), beside, "", "-", ""))
         elif on_linux:
-            rows.append((label, time_text(mine), "", "", f"< {time_text(limit)}",
+            rows.append((label, time_text(mine), beside, "", f"< {time_text(limit)}",
                          verdict(mine, mine is not None and mine < limit)))
         else:
-            rows.append((label, time_text(mine), "", "", f"Linux < {time_text(limit)}", ""))
+            rows.append((label, time_text(mine), beside, "", f"Linux < {time_text(limit)}", ""))
     widths = [max(len(row[i]) for row in rows) for i in range(len(rows[0]))]
     for row in rows:
         print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
