@@ -36,7 +36,7 @@ CVXStatusStruct::CVXStatusStruct(const CVXStatusStruct& other)
       m_nMessageNum(other.m_nMessageNum),
       m_pMessageText(vx::owned::Copy(other.m_pMessageText)),
       m_pAppendedText(vx::owned::Copy(other.m_pAppendedText)),
-      m_note(other.m_note) {}
+      m_strNote(other.m_strNote) {}
 
 CVXStatusStruct& CVXStatusStruct::operator=(const CVXStatusStruct& other) {
     if (this == &other) return *this;
@@ -44,7 +44,7 @@ CVXStatusStruct& CVXStatusStruct::operator=(const CVXStatusStruct& other) {
     m_nMessageNum = other.m_nMessageNum;
     vx::owned::Replace(m_pMessageText, other.m_pMessageText);
     vx::owned::Replace(m_pAppendedText, other.m_pAppendedText);
-    m_note = other.m_note;
+    m_strNote = other.m_strNote;
     return *this;
 }
 
@@ -107,8 +107,8 @@ void CVXStatusStruct::AppendText(CGNString& out) const {
         out += m_pAppendedText;
     }
     out += "\r\n";
-    if (!m_note.IsEmpty()) {
-        out += m_note;
+    if (!m_strNote.IsEmpty()) {
+        out += m_strNote;
         out += "\r\n";
     }
     out += "\r\n";

@@ -34,7 +34,7 @@ std::int64_t FloorDiv(std::int64_t value, std::int64_t divisor) {
 }  // namespace
 
 CGNString CGNDateTime::FormatDate(int style) const {
-    const CivilDate date = DateOfDay(FloorDiv(m_seconds, kSecondsPerDay));
+    const CivilDate date = DateOfDay(FloorDiv(m_nSeconds, kSecondsPerDay));
     const long long year = date.year;
     CGNString text;
     switch (style) {
@@ -52,7 +52,7 @@ CGNString CGNDateTime::FormatDate(int style) const {
 }
 
 CGNString CGNDateTime::FormatTime() const {
-    const std::int64_t second = m_seconds - FloorDiv(m_seconds, kSecondsPerDay) * kSecondsPerDay;
+    const std::int64_t second = m_nSeconds - FloorDiv(m_nSeconds, kSecondsPerDay) * kSecondsPerDay;
     CGNString text;
     text.Format("%02d:%02d:%02d", static_cast<int>(second / 3600),
                 static_cast<int>(second / 60 % 60), static_cast<int>(second % 60));

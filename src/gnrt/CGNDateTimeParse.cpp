@@ -184,6 +184,6 @@ bool CGNDateTime::parseDateTime(const char* text, int option) {
     const std::int64_t seconds = DayNumber(fields.year, fields.month, fields.day) * 86400 +
                                  fields.hour * 3600 + fields.minute * 60 + fields.second;
     if (seconds < kMinSeconds || seconds > kMaxSeconds) return false;
-    m_seconds = seconds;
+    m_nSeconds = seconds;
     return true;
 }

@@ -10,7 +10,7 @@ bool InRange(int index, int count) {
 
 }  // namespace
 
-CGNStringList::CGNStringList(int growStep) : m_growStep(growStep > 0 ? growStep : 1) {}
+CGNStringList::CGNStringList(int growStep) : m_nGrowStep(growStep > 0 ? growStep : 1) {}
 
 const CGNString& CGNStringList::GetAt(int index) const {
     static const CGNString kEmpty;
@@ -42,7 +42,7 @@ bool CGNStringList::InsertAt(int index, const CGNString& text) {
         return false;
     }
     m_items.reserve(vx::GrownCapacity(m_items.capacity(), m_items.size() + 1,
-                                      static_cast<std::size_t>(m_growStep)));
+                                      static_cast<std::size_t>(m_nGrowStep)));
     m_items.insert(m_items.begin() + index, text);
     return true;
 }

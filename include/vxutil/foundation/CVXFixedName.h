@@ -22,13 +22,15 @@ template <class Record>
 class CVXFixedName : public CVXListItemStruct {
 public:
     // Names longer than the buffer are cut, between characters and without a report.
-    void SetName(const char* name) { vx::names::Store(m_name, sizeof m_name, name, sizeof m_name); }
-    const char* GetName() const { return m_name; }
+    void SetName(const char* name) {
+        vx::names::Store(m_szName, sizeof m_szName, name, sizeof m_szName);
+    }
+    const char* GetName() const { return m_szName; }
 
     bool CopyTo(void* record) const override {
         if (record == nullptr) return false;
         auto* target = static_cast<Record*>(record);
-        vx::names::Store(target->name, sizeof target->name, m_name, sizeof m_name);
+        vx::names::Store(target->name, sizeof target->name, m_szName, sizeof m_szName);
         return true;
     }
 
@@ -36,14 +38,14 @@ protected:
     CVXFixedName() : CVXListItemStruct(sizeof(Record)) { SetName(nullptr); }
     explicit CVXFixedName(const char* name) : CVXListItemStruct(sizeof(Record)) { SetName(name); }
     explicit CVXFixedName(const Record& record) : CVXListItemStruct(sizeof(Record)) {
-        vx::names::Store(m_name, sizeof m_name, record.name, sizeof record.name);
+        vx::names::Store(m_szName, sizeof m_szName, record.name, sizeof record.name);
     }
-    CVXFixedName(const CVXFixedName& other) : CVXListItemStruct(other) { SetName(other.m_name); }
+    CVXFixedName(const CVXFixedName& other) : CVXListItemStruct(other) { SetName(other.m_szName); }
     CVXFixedName& operator=(const CVXFixedName& other) {
-        if (this != &other) SetName(other.m_name);
+        if (this != &other) SetName(other.m_szName);
         return *this;
     }
 
 private:
-    char m_name[sizeof(Record::name)];
+    char m_szName[sizeof(Record::name)];
 };

@@ -26,13 +26,13 @@ public:
     // Each keeps a copy of `text`; null leaves none.
     void SetMessageText(const char* text);
     void SetAppendedText(const char* text);
-    void SetNote(const CGNString& note) { m_note = note; }
+    void SetNote(const CGNString& note) { m_strNote = note; }
 
     std::uint32_t GetMessageType() const { return m_nMessageType; }
     std::int32_t GetMessageNum() const { return m_nMessageNum; }
     const char* GetMessageText() const { return m_pMessageText; }
     const char* GetAppendedText() const { return m_pAppendedText; }
-    const CGNString& GetNote() const { return m_note; }
+    const CGNString& GetNote() const { return m_strNote; }
 
     // Appends the status's display lines to `out`: "VXERR [302] text : appended", CR LF, the
     // note and CR LF when there is a note, and an empty line (CR LF).
@@ -46,5 +46,5 @@ private:
     std::int32_t m_nMessageNum = 0;
     char* m_pMessageText = nullptr;   // owned
     char* m_pAppendedText = nullptr;  // owned
-    CGNString m_note;                 // kept with the status, not part of the record
+    CGNString m_strNote;              // kept with the status, not part of the record
 };

@@ -37,9 +37,9 @@ public:
     static constexpr std::int64_t kMaxSeconds = INT32_MAX;
 
     CGNDateTime() = default;
-    explicit CGNDateTime(std::int64_t seconds) : m_seconds(seconds) {}
+    explicit CGNDateTime(std::int64_t seconds) : m_nSeconds(seconds) {}
 
-    std::int64_t GetSeconds() const { return m_seconds; }
+    std::int64_t GetSeconds() const { return m_nSeconds; }
     // Sets the instant from `text` read as `option` says (UTC, like the display texts); false,
     // leaving the instant as it was, for other text or an instant outside the server's range.
     bool parseDateTime(const char* text, int option);
@@ -58,5 +58,5 @@ public:
     static void GetMinMaxDateTimeRange(int style, CGNString& min, CGNString& max);
 
 private:
-    std::int64_t m_seconds = 0;
+    std::int64_t m_nSeconds = 0;
 };

@@ -7,7 +7,7 @@
 #include "vxutil/export.h"
 
 class VXUTIL_API CGNList {
-  public:
+public:
     // `initialSize` slots are reserved at once; the list then grows by at least `growStep` slots
     // at a time (by half its size when that is more, so that long lists append in amortized
     // constant time).
@@ -23,7 +23,7 @@ class VXUTIL_API CGNList {
     // The contiguous slot array (GetCount() items), or null when the list has no slots.
     virtual void** GetItemListPtr();
 
-    int GetCount() const { return m_count; }
+    int GetCount() const { return m_nCount; }
     // Appends; false only when the slots cannot be grown.
     bool AddItem(void* item);
     // Inserts before `index`; an index equal to the count appends. False when out of range
@@ -35,11 +35,11 @@ class VXUTIL_API CGNList {
     void* GetItem(int index) const;
     bool SetItem(int index, void* item);
 
-  private:
+private:
     bool Reserve(int needed);
 
-    void** m_items = nullptr;
-    int m_count = 0;
-    int m_capacity = 0;
-    int m_growStep;
+    void** m_pItems = nullptr;
+    int m_nCount = 0;
+    int m_nCapacity = 0;
+    int m_nGrowStep;
 };

@@ -7,7 +7,7 @@
 #include "vxutil/gnrt/CGNString.h"
 
 class VXUTIL_API CGNStringList {
-  public:
+public:
     // The grow step is the least number of slots reserved at a time; it affects only allocation.
     explicit CGNStringList(int growStep = 10);
 
@@ -35,7 +35,7 @@ class VXUTIL_API CGNStringList {
     auto begin() const { return m_items.begin(); }
     auto end() const { return m_items.end(); }
 
-  private:
+private:
     std::vector<CGNString> m_items;
-    int m_growStep;
+    int m_nGrowStep;
 };

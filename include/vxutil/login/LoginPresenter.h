@@ -52,7 +52,7 @@ public:
     void EnableContextHelp(int enable);
 
     // The default home folder, as read when the dialog opened or the accounts dialog closed.
-    const CGNString& DefaultHomePath() const { return m_defaultHomePath; }
+    const CGNString& DefaultHomePath() const { return m_strDefaultHomePath; }
 
 private:
     // Reads the users again, sorted, into the list and the view.
@@ -64,10 +64,10 @@ private:
 
     ILoginView& m_view;
     CLoginOwner* m_pOwner;
-    CGNString m_user;
-    CGNString m_password;
+    CGNString m_strUser;
+    CGNString m_strPassword;
     CGNStringList m_users;
-    CGNString m_defaultHomePath;
+    CGNString m_strDefaultHomePath;
     int m_bInfoButtonEnabled = 1;
     int m_bContextHelpEnabled = 1;
 };

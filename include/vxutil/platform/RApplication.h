@@ -26,8 +26,8 @@ public:
     // The caller keeps ownership.
     static RApplication* SetCurrent(RApplication* app);
 
-    const std::string& GetAppName() const { return m_appName; }
-    const std::string& GetProfileName() const { return m_profileName; }
+    const std::string& GetAppName() const { return m_strAppName; }
+    const std::string& GetProfileName() const { return m_strProfileName; }
     // Where the profile is kept, for display: the file path or the registry key.
     std::string GetProfileLocation() const;
 
@@ -41,6 +41,6 @@ public:
     bool WriteProfileString(const char* section, const char* entry, const char* value);
 
 private:
-    std::string m_appName;
-    std::string m_profileName;
+    std::string m_strAppName;
+    std::string m_strProfileName;
 };

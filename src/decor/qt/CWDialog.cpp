@@ -21,7 +21,7 @@ CWDialog::CWDialog(QWidget* parent) : QDialog(parent) {
 }
 
 void CWDialog::EnableContextHelp(bool enable) {
-    m_contextHelp = enable;
+    m_bContextHelp = enable;
     if (!isVisible()) {
         setWindowFlag(Qt::WindowContextHelpButtonHint, enable);
         return;

@@ -23,41 +23,41 @@ int RCaptionPainter::Install(QWidget* window, unsigned activeGradient) {
     CaptionTrace trace("RCaptionPainter::Install");
     if (window == nullptr) return 0;
     UnInstall();
-    m_window = window;
-    m_activeGradient = activeGradient;
+    m_pWindow = window;
+    m_nActiveGradient = activeGradient;
     if (qobject_cast<QMdiSubWindow*>(window) != nullptr) {
-        m_style = new CaptionStyle(*this, window->style()->name());
-        m_style->setParent(window);
-        window->setStyle(m_style);
+        m_pStyle = new CaptionStyle(*this, window->style()->name());
+        m_pStyle->setParent(window);
+        window->setStyle(m_pStyle);
     }
     return 1;
 }
 
 void RCaptionPainter::UnInstall() {
     CaptionTrace trace("RCaptionPainter::UnInstall");
-    if (m_window != nullptr && m_style != nullptr) {
-        m_window->setStyle(nullptr);
-        delete m_style;
+    if (m_pWindow != nullptr && m_pStyle != nullptr) {
+        m_pWindow->setStyle(nullptr);
+        delete m_pStyle;
     }
-    m_style = nullptr;
-    m_window = nullptr;
+    m_pStyle = nullptr;
+    m_pWindow = nullptr;
 }
 
 void RCaptionPainter::SetGradient(int on) {
     if (m_state.gradientOn == (on != 0)) return;
     m_state.gradientOn = on != 0;
-    if (m_window != nullptr) m_window->repaint();
+    if (m_pWindow != nullptr) m_pWindow->repaint();
 }
 
 void RCaptionPainter::Invalidate() {
-    if (m_window != nullptr) m_window->update();
+    if (m_pWindow != nullptr) m_pWindow->update();
 }
 
 std::vector<vx::Band> RCaptionPainter::CaptionBands(const QPalette& palette, bool active, int cx,
                                                     int cy) const {
     vx::CaptionState state = m_state;
     state.activeCaption = vx::ToColorRef(palette.color(QPalette::Active, QPalette::Highlight));
-    if (active && m_activeGradient == kColorToColor)
+    if (active && m_nActiveGradient == kColorToColor)
         return vx::GradientColorToColorBands(state, cx, cy, 1, 0);
     if (active) return vx::GradientBlackToColorBands(state, cx, cy, 1, 0);
     const vx::ColorRef inactive = vx::ToColorRef(palette.color(QPalette::Inactive, QPalette::Dark));

@@ -24,8 +24,8 @@ vx::DialogBarSystemColors SystemColors(const QPalette& palette) {
 
 }  // namespace
 
-RDialogBar::RDialogBar(QWidget* parent) : QFrame(parent), m_label(new QLabel(this)) {
-    m_label->setObjectName(QStringLiteral("text_%1").arg(kTextControlId));
+RDialogBar::RDialogBar(QWidget* parent) : QFrame(parent), m_pLabel(new QLabel(this)) {
+    m_pLabel->setObjectName(QStringLiteral("text_%1").arg(kTextControlId));
     setAutoFillBackground(true);
     setFrameShape(QFrame::NoFrame);
     setMinimumHeight(fontMetrics().height() + 10);
@@ -44,17 +44,17 @@ int RDialogBar::CreateBar(QWidget* parent, unsigned, unsigned barId) {
 }
 
 void RDialogBar::SetDisplayText(const char* text) {
-    m_label->setText(vx::ToQString(text != nullptr ? text : ""));
-    setAccessibleName(m_label->text());
+    m_pLabel->setText(vx::ToQString(text != nullptr ? text : ""));
+    setAccessibleName(m_pLabel->text());
 }
 
 void RDialogBar::SetDisplayText(int stringId) {
-    m_label->setText(vx::Tr(static_cast<unsigned>(stringId)));
-    setAccessibleName(m_label->text());
+    m_pLabel->setText(vx::Tr(static_cast<unsigned>(stringId)));
+    setAccessibleName(m_pLabel->text());
 }
 
 QString RDialogBar::GetDisplayText() const {
-    return m_label->text();
+    return m_pLabel->text();
 }
 
 void RDialogBar::SetDisplayTextColor(RDialogBar* source, int redraw, int store, int broadcast) {
@@ -84,7 +84,7 @@ void RDialogBar::SetDisplayFont(RDialogBar* source, int redraw, int store, int b
 void RDialogBar::OnFontChange() {
     BarTrace trace("RDialogBar::OnFontChange");
     const std::optional<QFont> chosen =
-        vx::DialogBarChooser::Current().ChooseFont(window(), m_label->font());
+        vx::DialogBarChooser::Current().ChooseFont(window(), m_pLabel->font());
     if (!chosen) return;
     SaveRegistryTextFont(vx::MergeQFont(m_font, *chosen, font()));
     Publish(0, 1);
@@ -106,9 +106,9 @@ void RDialogBar::Publish(int redraw, int broadcast) {
 
 void RDialogBar::SetBarTextColor(const QColor& color) {
     m_text = color;
-    QPalette palette = m_label->palette();
+    QPalette palette = m_pLabel->palette();
     palette.setColor(QPalette::WindowText, color);
-    m_label->setPalette(palette);
+    m_pLabel->setPalette(palette);
 }
 
 void RDialogBar::SetBarBkgnd(const QColor& color) {
@@ -120,7 +120,7 @@ void RDialogBar::SetBarBkgnd(const QColor& color) {
 
 void RDialogBar::SetBarFont(const vx::LogFont& font) {
     m_font = font;
-    m_label->setFont(vx::ToQFont(font, this->font()));
+    m_pLabel->setFont(vx::ToQFont(font, this->font()));
 }
 
 QColor RDialogBar::GetBkgndColor() const {
@@ -150,11 +150,11 @@ bool RDialogBar::SaveRegistryTextFont(const vx::LogFont& font) {
 void RDialogBar::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
     if (const std::optional<vx::BarRect> text = vx::DialogBarTextRect(width(), height()))
-        m_label->setGeometry(text->x, text->y, text->w, text->h);
+        m_pLabel->setGeometry(text->x, text->y, text->w, text->h);
 }
 
 void RDialogBar::contextMenuEvent(QContextMenuEvent* event) {
-    if (!m_defaultMenu) {
+    if (!m_bDefaultMenu) {
         QFrame::contextMenuEvent(event);
         return;
     }

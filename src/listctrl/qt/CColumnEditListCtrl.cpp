@@ -8,8 +8,8 @@
 #include <climits>
 #include <vector>
 
-#include "listctrl/qt/ColumnEditDelegate.h"
 #include "listctrl/ListTrace.h"
+#include "listctrl/qt/ColumnEditDelegate.h"
 
 namespace {
 
@@ -21,11 +21,11 @@ constexpr vx::ColumnImage kSystemCheckBox = -2;
 
 CColumnEditListCtrl::CColumnEditListCtrl(QWidget* parent)
     : QTreeView(parent),
-      m_model(new QStandardItemModel(this)),
-      m_settings([this] { return m_model->columnCount(); }),
-      m_delegate(new vx::ColumnEditDelegate(this)) {
-    setModel(m_model);
-    setItemDelegate(m_delegate);
+      m_pModel(new QStandardItemModel(this)),
+      m_settings([this] { return m_pModel->columnCount(); }),
+      m_pDelegate(new vx::ColumnEditDelegate(this)) {
+    setModel(m_pModel);
+    setItemDelegate(m_pDelegate);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
@@ -41,21 +41,21 @@ CColumnEditListCtrl::~CColumnEditListCtrl() = default;
 int CColumnEditListCtrl::InsertColumn(int column, const QString& header, int width,
                                       Qt::Alignment alignment) {
     if (column < 0) return -1;
-    column = std::min(column, m_model->columnCount());
-    if (!m_model->insertColumn(column)) return -1;
+    column = std::min(column, m_pModel->columnCount());
+    if (!m_pModel->insertColumn(column)) return -1;
     auto* title = new QStandardItem(header);
     title->setTextAlignment(alignment | Qt::AlignVCenter);
-    m_model->setHorizontalHeaderItem(column, title);
+    m_pModel->setHorizontalHeaderItem(column, title);
     this->header()->resizeSection(column, width);
     return column;
 }
 
 bool CColumnEditListCtrl::DeleteColumn(int column) {
-    return HasColumn(column) && m_model->removeColumn(column);
+    return HasColumn(column) && m_pModel->removeColumn(column);
 }
 
 int CColumnEditListCtrl::GetColumnCount() const {
-    return m_model->columnCount();
+    return m_pModel->columnCount();
 }
 
 int CColumnEditListCtrl::GetColumnWidth(int column) const {
@@ -74,40 +74,40 @@ int CColumnEditListCtrl::ValidateColumn(int column) const {
 }
 
 bool CColumnEditListCtrl::HasColumn(int column) const {
-    return column >= 0 && column < m_model->columnCount();
+    return column >= 0 && column < m_pModel->columnCount();
 }
 
 int CColumnEditListCtrl::InsertItem(int row, const QString& text) {
     if (row < 0) return -1;
-    row = std::min(row, m_model->rowCount());
-    m_model->insertRow(row, new QStandardItem(text));
+    row = std::min(row, m_pModel->rowCount());
+    m_pModel->insertRow(row, new QStandardItem(text));
     return row;
 }
 
 bool CColumnEditListCtrl::DeleteItem(int row) {
-    return row >= 0 && m_model->removeRow(row);
+    return row >= 0 && m_pModel->removeRow(row);
 }
 
 bool CColumnEditListCtrl::DeleteAllItems() {
-    return m_model->removeRows(0, m_model->rowCount());
+    return m_pModel->removeRows(0, m_pModel->rowCount());
 }
 
 int CColumnEditListCtrl::GetItemCount() const {
-    return m_model->rowCount();
+    return m_pModel->rowCount();
 }
 
 bool CColumnEditListCtrl::SetItemText(int row, int column, const QString& text) {
-    if (row < 0 || row >= m_model->rowCount() || !HasColumn(column)) return false;
-    if (QStandardItem* cell = m_model->item(row, column)) {
+    if (row < 0 || row >= m_pModel->rowCount() || !HasColumn(column)) return false;
+    if (QStandardItem* cell = m_pModel->item(row, column)) {
         cell->setText(text);
     } else {
-        m_model->setItem(row, column, new QStandardItem(text));
+        m_pModel->setItem(row, column, new QStandardItem(text));
     }
     return true;
 }
 
 QString CColumnEditListCtrl::GetItemText(int row, int column) const {
-    const QStandardItem* cell = m_model->item(row, column);
+    const QStandardItem* cell = m_pModel->item(row, column);
     return cell != nullptr ? cell->text() : QString();
 }
 
@@ -117,40 +117,40 @@ int CColumnEditListCtrl::SetColumnText(int row, int column, const QString& text)
 }
 
 bool CColumnEditListCtrl::SetItemData(int row, std::intptr_t itemData) {
-    QStandardItem* first = m_model->item(row, 0);
+    QStandardItem* first = m_pModel->item(row, 0);
     if (first == nullptr) return false;
     first->setData(QVariant::fromValue<qlonglong>(itemData), kItemDataRole);
     return true;
 }
 
 std::intptr_t CColumnEditListCtrl::GetItemData(int row) const {
-    const QStandardItem* first = m_model->item(row, 0);
+    const QStandardItem* first = m_pModel->item(row, 0);
     return first != nullptr ? static_cast<std::intptr_t>(first->data(kItemDataRole).toLongLong())
                             : 0;
 }
 
 bool CColumnEditListCtrl::SetItemChecked(int row, int column, bool checked) {
-    if (row < 0 || row >= m_model->rowCount() || !HasColumn(column)) return false;
-    return m_model->setData(m_model->index(row, column), checked ? Qt::Checked : Qt::Unchecked,
-                            Qt::CheckStateRole);
+    if (row < 0 || row >= m_pModel->rowCount() || !HasColumn(column)) return false;
+    return m_pModel->setData(m_pModel->index(row, column), checked ? Qt::Checked : Qt::Unchecked,
+                             Qt::CheckStateRole);
 }
 
 bool CColumnEditListCtrl::IsItemChecked(int row, int column) const {
-    return m_model->index(row, column).data(Qt::CheckStateRole).value<Qt::CheckState>() ==
+    return m_pModel->index(row, column).data(Qt::CheckStateRole).value<Qt::CheckState>() ==
            Qt::Checked;
 }
 
 bool CColumnEditListCtrl::SetItemSelected(int row, bool selected) {
-    if (row < 0 || row >= m_model->rowCount()) return false;
-    selectionModel()->select(m_model->index(row, 0), (selected ? QItemSelectionModel::Select
-                                                               : QItemSelectionModel::Deselect) |
-                                                         QItemSelectionModel::Rows);
+    if (row < 0 || row >= m_pModel->rowCount()) return false;
+    selectionModel()->select(m_pModel->index(row, 0), (selected ? QItemSelectionModel::Select
+                                                                : QItemSelectionModel::Deselect) |
+                                                          QItemSelectionModel::Rows);
     return true;
 }
 
 bool CColumnEditListCtrl::SetItemFocused(int row) {
-    if (row < 0 || row >= m_model->rowCount()) return false;
-    selectionModel()->setCurrentIndex(m_model->index(row, 0), QItemSelectionModel::NoUpdate);
+    if (row < 0 || row >= m_pModel->rowCount()) return false;
+    selectionModel()->setCurrentIndex(m_pModel->index(row, 0), QItemSelectionModel::NoUpdate);
     return true;
 }
 
@@ -197,7 +197,7 @@ vx::ColumnImage CColumnEditListCtrl::GetColumnImageOverlay(int column) const {
 }
 
 vx::ColumnImage CColumnEditListCtrl::AddImage(const QIcon& icon) {
-    const vx::ColumnImage id = m_nextImage++;
+    const vx::ColumnImage id = m_nNextImage++;
     m_pictures.insert(id, icon);
     return id;
 }
@@ -224,7 +224,7 @@ void CColumnEditListCtrl::UpdateColumnImages() {
 int CColumnEditListCtrl::GetColumnFromPoint(const QPoint& globalPoint) const {
     vx::ListTrace trace("CColumnEditListCtrl::GetColumnFromPoint");
     std::vector<int> widths;
-    for (int column = 0; column < m_model->columnCount(); ++column)
+    for (int column = 0; column < m_pModel->columnCount(); ++column)
         widths.push_back(header()->sectionSize(column));
     return vx::ColumnFromX(widths, viewport()->mapFromGlobal(globalPoint).x());
 }
@@ -234,7 +234,7 @@ bool CColumnEditListCtrl::IsInLabelEditMode() const {
 }
 
 void CColumnEditListCtrl::SetUpdateMode(bool on) {
-    m_updateMode = on;
+    m_bUpdateMode = on;
     setUpdatesEnabled(!on);
 }
 
@@ -282,7 +282,7 @@ void CColumnEditListCtrl::mousePressEvent(QMouseEvent* event) {
 
 void CColumnEditListCtrl::commitData(QWidget* editor) {
     QTreeView::commitData(editor);
-    if (editor != nullptr && editor == m_editor) m_committed = true;
+    if (editor != nullptr && editor == m_pEditor) m_bCommitted = true;
 }
 
 void CColumnEditListCtrl::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
@@ -290,14 +290,14 @@ void CColumnEditListCtrl::closeEditor(QWidget* editor, QAbstractItemDelegate::En
     if (hint == QAbstractItemDelegate::EditNextItem ||
         hint == QAbstractItemDelegate::EditPreviousItem)
         hint = QAbstractItemDelegate::NoHint;
-    const bool ending = editor != nullptr && editor == m_editor;
+    const bool ending = editor != nullptr && editor == m_pEditor;
     const QPersistentModelIndex index = m_editIndex;
-    const bool committed = m_committed;
+    const bool committed = m_bCommitted;
     QTreeView::closeEditor(editor, hint);
     if (!ending) return;
-    m_editor = nullptr;
+    m_pEditor = nullptr;
     m_editIndex = QPersistentModelIndex();
-    m_committed = false;
+    m_bCommitted = false;
     if (!committed || !index.isValid()) return;
     const int row = index.row();
     const int column = index.column();
@@ -307,11 +307,11 @@ void CColumnEditListCtrl::closeEditor(QWidget* editor, QAbstractItemDelegate::En
 
 void CColumnEditListCtrl::EditorOpened(QWidget* editor, const QModelIndex& index,
                                        const QString& text) {
-    m_editor = editor;
+    m_pEditor = editor;
     m_editIndex = index;
-    m_committed = false;
-    m_originalLabel = text;
-    m_lastRow = index.row();
-    m_lastColumn = index.column();
-    Q_EMIT editStarted(m_lastRow, m_lastColumn);
+    m_bCommitted = false;
+    m_strOriginalLabel = text;
+    m_nLastRow = index.row();
+    m_nLastColumn = index.column();
+    Q_EMIT editStarted(m_nLastRow, m_nLastColumn);
 }

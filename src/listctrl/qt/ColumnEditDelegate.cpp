@@ -13,10 +13,10 @@
 #include <memory>
 
 #include "gnrt/StringTable.h"
-#include "vxutil/listctrl/RangeMessage.h"
 #include "listctrl/qt/EditLogicAdapter.h"
 #include "listctrl/qt/FolderBrowseEdit.h"
 #include "vxutil/listctrl/RHexEditLogic.h"
+#include "vxutil/listctrl/RangeMessage.h"
 #include "vxutil/listctrl/RpcNumberRule.h"
 #include "vxutil/listctrl/qt/CColumnEditListCtrl.h"
 #include "vxutil/runtime/RUserPrompt.h"
@@ -91,7 +91,7 @@ QWidget* ColumnEditDelegate::createEditor(QWidget* parent, const QStyleOptionVie
 void ColumnEditDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
     auto* edit = qobject_cast<QLineEdit*>(editor);
     // The view calls again when the cell changes under an open editor; the user's typing stays.
-    if (edit == nullptr || editor == m_list->m_editor) return;
+    if (edit == nullptr || editor == m_list->m_pEditor) return;
     const QString text = index.data(Qt::DisplayRole).toString();
     edit->setText(text);
     edit->selectAll();

@@ -37,15 +37,15 @@ LoginPresenter::LoginPresenter(ILoginView& view, CLoginOwner* owner, const CGNSt
                                const CGNString& password)
     : m_view(view),
       m_pOwner(owner),
-      m_user(FitLoginField(user)),
-      m_password(FitLoginField(password)) {}
+      m_strUser(FitLoginField(user)),
+      m_strPassword(FitLoginField(password)) {}
 
 int LoginPresenter::OnInitDialog() {
     LoginDialogTrace trace("CLoginDlg::OnInitDialog");
     LoadUsers();
     // A proposed user the list does not know stays as typed text.
-    PushFields(FindUser(m_users, m_user));
-    CAppEnv::GetDefaultHomePath(m_defaultHomePath);
+    PushFields(FindUser(m_users, m_strUser));
+    CAppEnv::GetDefaultHomePath(m_strDefaultHomePath);
     SetButtonState();
     EnableContextHelp(m_bContextHelpEnabled);
     return m_pOwner != nullptr ? m_pOwner->OnInitDialog(m_view.Window()) : 1;
@@ -53,7 +53,7 @@ int LoginPresenter::OnInitDialog() {
 
 void LoginPresenter::SetButtonState() {
     PullFields();
-    m_view.SetOkEnabled(!m_user.IsEmpty());
+    m_view.SetOkEnabled(!m_strUser.IsEmpty());
     EnableInfoButton(m_bInfoButtonEnabled);
 }
 
@@ -70,7 +70,7 @@ void LoginPresenter::OnOK() {
     PullFields();
     // Typed text cannot exceed the fields; a long name chosen from the list can, and is refused
     // rather than cut into another user's name.
-    if (!FitsLoginField(m_user.view()) || !FitsLoginField(m_password.view())) {
+    if (!FitsLoginField(m_strUser.view()) || !FitsLoginField(m_strPassword.view())) {
         m_view.SetBusy(false);
         CGNString text;
         OSLoadString(kStrLoginFieldTooLong, text);
@@ -80,8 +80,8 @@ void LoginPresenter::OnOK() {
     }
     // Disabled while the owner works, so that a pumping owner cannot see OK pressed again.
     m_view.SetWindowEnabled(false);
-    CGNString user = m_user;
-    CGNString password = m_password;
+    CGNString user = m_strUser;
+    CGNString password = m_strPassword;
     const int result = m_pOwner != nullptr ? m_pOwner->Login(user, password) : 0;
     m_view.SetWindowEnabled(true);
     if (result == 1) {
@@ -102,21 +102,21 @@ void LoginPresenter::OnCancel() {
 void LoginPresenter::OnLoginAccounts() {
     LoginDialogTrace trace("CLoginDlg::OnLoginAccounts");
     PullFields();
-    const AccountsOutcome outcome = m_view.RunAccounts(m_user, m_pOwner);
+    const AccountsOutcome outcome = m_view.RunAccounts(m_strUser, m_pOwner);
     if (outcome.dirty) LoadUsers();
     if (outcome.accepted) {
         // The password belongs to the user it was typed for.
-        if (!(outcome.currentUser == m_user)) m_password.Empty();
-        m_user = outcome.currentUser;
+        if (!(outcome.currentUser == m_strUser)) m_strPassword.Empty();
+        m_strUser = outcome.currentUser;
     }
     int index = -1;
-    if (!m_user.IsEmpty()) {
-        index = FindUser(m_users, m_user);
+    if (!m_strUser.IsEmpty()) {
+        index = FindUser(m_users, m_strUser);
         // A user that is gone (deleted or renamed) gives way to the first in the list, if any.
         if (index < 0 && !m_users.IsEmpty()) index = 0;
-        if (index >= 0) m_user = m_users.GetAt(index);
+        if (index >= 0) m_strUser = m_users.GetAt(index);
     }
-    CAppEnv::GetDefaultHomePath(m_defaultHomePath);
+    CAppEnv::GetDefaultHomePath(m_strDefaultHomePath);
     PushFields(index);
     SetButtonState();
 }
@@ -147,13 +147,13 @@ void LoginPresenter::PushFields(int index) {
     if (index >= 0)
         m_view.SelectUser(index);
     else
-        m_view.SetUserText(m_user);
-    m_view.SetPassword(m_password);
+        m_view.SetUserText(m_strUser);
+    m_view.SetPassword(m_strPassword);
 }
 
 void LoginPresenter::PullFields() {
-    m_user = m_view.UserText();
-    m_password = m_view.Password();
+    m_strUser = m_view.UserText();
+    m_strPassword = m_view.Password();
 }
 
 }  // namespace vx

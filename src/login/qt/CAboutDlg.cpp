@@ -52,8 +52,8 @@ struct CAboutDlg::Parts {
 CAboutDlg::CAboutDlg(const QString& productName, quint16 majorVersion, quint16 minorVersion,
                      quint32 build, const QPixmap& bitmap, const QIcon& icon, const QString& legal,
                      QWidget* parent)
-    : CWDialog(parent), m_parts(std::make_unique<Parts>()) {
-    Ui::CAboutDlg& ui = m_parts->ui;
+    : CWDialog(parent), m_pParts(std::make_unique<Parts>()) {
+    Ui::CAboutDlg& ui = m_pParts->ui;
     ui.setupUi(this);
     setWindowTitle(vx::Tr(vx::kStrAboutCaption) + productName);
     ui.productLabel->setText(productName);

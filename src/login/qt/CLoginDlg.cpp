@@ -93,21 +93,21 @@ struct CLoginDlg::Parts : QObject {
 
 CLoginDlg::CLoginDlg(const QString& user, CLoginOwner* owner, QWidget* parent,
                      const QString& password)
-    : CWDialog(parent), m_parts(std::make_unique<Parts>(*this, owner, user, password)) {
+    : CWDialog(parent), m_pParts(std::make_unique<Parts>(*this, owner, user, password)) {
     vx::RestoreDialogGeometry(*this, kGeometryEntry);
     // The owner's answer only says whether it placed the focus itself; Qt gives the first
     // control the focus otherwise.
-    m_parts->presenter.OnInitDialog();
+    m_pParts->presenter.OnInitDialog();
 }
 
 CLoginDlg::~CLoginDlg() = default;
 
 void CLoginDlg::EnableInfoButton(int enable) {
-    m_parts->presenter.EnableInfoButton(enable);
+    m_pParts->presenter.EnableInfoButton(enable);
 }
 
 void CLoginDlg::EnableContextHelp(int enable) {
-    m_parts->presenter.EnableContextHelp(enable);
+    m_pParts->presenter.EnableContextHelp(enable);
 }
 
 int CLoginDlg::exec() {
@@ -119,7 +119,7 @@ int CLoginDlg::exec() {
 void CLoginDlg::reject() {
     // Also how a close request arrives: while the owner logs in (and perhaps pumps messages)
     // the dialog stays, and QDialog then refuses the close event.
-    if (!m_parts->view.IsBusy()) m_parts->presenter.OnCancel();
+    if (!m_pParts->view.IsBusy()) m_pParts->presenter.OnCancel();
 }
 
 void CLoginDlg::done(int result) {
@@ -128,6 +128,6 @@ void CLoginDlg::done(int result) {
 }
 
 bool CLoginDlg::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) m_parts->UpdateCapsLockHint();
+    if (event->type() == QEvent::WindowActivate) m_pParts->UpdateCapsLockHint();
     return CWDialog::event(event);
 }

@@ -112,9 +112,9 @@ void CLoginPropDlg::Parts::Connect() {
 }
 
 CLoginPropDlg::CLoginPropDlg(const QString& user, QWidget* parent, CLoginOwner* owner)
-    : CWDialog(parent), m_parts(std::make_unique<Parts>(*this, user, owner)) {
-    m_parts->Connect();
-    m_parts->Present([&] { m_parts->presenter.OnInitDialog(); });
+    : CWDialog(parent), m_pParts(std::make_unique<Parts>(*this, user, owner)) {
+    m_pParts->Connect();
+    m_pParts->Present([&] { m_pParts->presenter.OnInitDialog(); });
     if (owner != nullptr) owner->OnInitDialog(static_cast<QWidget*>(this));
     // Where the user left the dialog last time wins over the owner's placing.
     vx::RestoreDialogGeometry(*this, kGeometryEntry);
@@ -123,13 +123,13 @@ CLoginPropDlg::CLoginPropDlg(const QString& user, QWidget* parent, CLoginOwner* 
 CLoginPropDlg::~CLoginPropDlg() = default;
 
 int CLoginPropDlg::IsDirty() const {
-    return m_parts->presenter.IsDirty();
+    return m_pParts->presenter.IsDirty();
 }
 
 QString CLoginPropDlg::GetCurrentUser() const {
-    return vx::ToQString(m_parts->presenter.GetCurrentUser());
+    return vx::ToQString(m_pParts->presenter.GetCurrentUser());
 }
 
 CGNString CLoginPropDlg::GetServerColumnWidths() const {
-    return m_parts->presenter.GetServerColumnWidths();
+    return m_pParts->presenter.GetServerColumnWidths();
 }

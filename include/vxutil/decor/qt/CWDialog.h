@@ -15,12 +15,12 @@ public:
     // Shows or hides the "?" caption button; on a dialog already shown the window system may
     // apply it only when the window is made anew.
     void EnableContextHelp(bool enable);
-    bool IsContextHelpEnabled() const { return m_contextHelp; }
+    bool IsContextHelpEnabled() const { return m_bContextHelp; }
 
 protected:
     bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    bool m_contextHelp = true;
+    bool m_bContextHelp = true;
 };

@@ -44,8 +44,8 @@ public:
     static QImage PaintBands(const std::vector<vx::Band>& bands, int cx, int cy);
 
 private:
-    QPointer<QWidget> m_window;
-    CaptionStyle* m_style = nullptr;  // owned by the window once installed
-    unsigned m_activeGradient = kColorToColor;
+    QPointer<QWidget> m_pWindow;
+    CaptionStyle* m_pStyle = nullptr;  // owned by the window once installed
+    unsigned m_nActiveGradient = kColorToColor;
     vx::CaptionState m_state;
 };

@@ -62,7 +62,7 @@ public:
     void OnBkgndColorChange();
 
 protected:
-    void EnableDefaultMenu(int enable) { m_defaultMenu = enable != 0; }
+    void EnableDefaultMenu(int enable) { m_bDefaultMenu = enable != 0; }
     void SetDefaultText(int stringId) { SetDisplayText(stringId); }
 
     virtual void SetBarTextColor(const QColor& color);
@@ -86,9 +86,9 @@ private:
     // Every bar takes the stored look again after one of them changed it.
     void ReloadLook();
 
-    QLabel* m_label;
+    QLabel* m_pLabel;
     QColor m_background;
     QColor m_text;
     vx::LogFont m_font;
-    bool m_defaultMenu = true;
+    bool m_bDefaultMenu = true;
 };

@@ -97,13 +97,13 @@ public:
     int GetColumnFromPoint(const QPoint& globalPoint) const;
 
     // The running or last edit.
-    QString GetOriginalLabel() const { return m_originalLabel; }
-    int GetLastItemEdited() const { return m_lastRow; }
-    int GetLastSubItemEdited() const { return m_lastColumn; }
+    QString GetOriginalLabel() const { return m_strOriginalLabel; }
+    int GetLastItemEdited() const { return m_nLastRow; }
+    int GetLastSubItemEdited() const { return m_nLastColumn; }
     bool IsInLabelEditMode() const;
     // Update mode holds repaints while a caller refills the list.
     void SetUpdateMode(bool on);
-    bool IsUpdateMode() const { return m_updateMode; }
+    bool IsUpdateMode() const { return m_bUpdateMode; }
 
     // Hooks for derived lists.
     virtual bool CanEditThisItem(int row, int column);
@@ -132,7 +132,7 @@ protected:
     bool HasColumn(int column) const;
     vx::ColumnSettings& Settings() { return m_settings; }
     const vx::ColumnSettings& Settings() const { return m_settings; }
-    QStandardItemModel* Model() const { return m_model; }
+    QStandardItemModel* Model() const { return m_pModel; }
 
     void mousePressEvent(QMouseEvent* event) override;
 
@@ -146,17 +146,17 @@ private:
     void EditorOpened(QWidget* editor, const QModelIndex& index, const QString& text);
     QModelIndex EditingIndex() const { return m_editIndex; }
 
-    QStandardItemModel* m_model;
+    QStandardItemModel* m_pModel;
     vx::ColumnSettings m_settings;
-    vx::ColumnEditDelegate* m_delegate;
+    vx::ColumnEditDelegate* m_pDelegate;
     QHash<int, std::pair<int, int>> m_ranges;
     QHash<vx::ColumnImage, QIcon> m_pictures;
-    vx::ColumnImage m_nextImage = 1;
-    QPointer<QWidget> m_editor;
+    vx::ColumnImage m_nNextImage = 1;
+    QPointer<QWidget> m_pEditor;
     QPersistentModelIndex m_editIndex;
-    bool m_committed = false;
-    QString m_originalLabel;
-    int m_lastRow = -1;
-    int m_lastColumn = -1;
-    bool m_updateMode = false;
+    bool m_bCommitted = false;
+    QString m_strOriginalLabel;
+    int m_nLastRow = -1;
+    int m_nLastColumn = -1;
+    bool m_bUpdateMode = false;
 };

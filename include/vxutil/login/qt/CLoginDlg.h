@@ -43,5 +43,5 @@ protected:
 
 private:
     struct Parts;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<Parts> m_pParts;
 };

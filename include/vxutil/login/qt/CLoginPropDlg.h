@@ -30,5 +30,5 @@ public:
 
 private:
     struct Parts;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<Parts> m_pParts;
 };
