@@ -164,6 +164,9 @@ private Q_SLOTS:
 
         auto* advanced = d.dialog.findChild<QCheckBox*>(u"advancedOptions_3424"_s);
         QCOMPARE(d.servers->GetColumnCount(), 6);
+        // Typing in a port cell keeps to the port's range, not the list's default.
+        QCOMPARE(d.servers->GetColumnRange(3), std::make_pair(0, 65535));
+        QCOMPARE(d.servers->GetColumnRange(4), std::make_pair(0, 390694));
         d.servers->SetColumnWidth(3, 90);
         QTest::mouseClick(advanced, Qt::LeftButton);
         QCOMPARE(d.servers->GetColumnCount(), 3);

@@ -51,6 +51,9 @@ struct AccountsColumn {
     bool directEdit;    // a single click starts the editor
     int menuId;
     bool centred;
+    // Number cells: the range their editor keeps to while typing and the message names.
+    int minimum = 0;
+    int maximum = 0;
 };
 
 inline constexpr AccountsColumn kUserColumns[] = {
@@ -63,9 +66,10 @@ inline constexpr AccountsColumn kServerColumns[] = {
     {kCellText, true, false, 0, false, kMenuServerName, false},
     {kCellToggleBitmap, false, true, kCmdWorkflowServer, false, kMenuWorkflowServer, false},
     {kCellToggleBitmap, false, true, kCmdNotifierServer, false, kMenuNotifierServer, false},
-    {kCellHexadecimal, false, false, kCmdEditPorts, true, kMenuServerPorts, true},
-    {kCellPrivateNumber, false, false, kCmdEditPorts, true, kMenuServerPorts, true},
-    {kCellHexadecimal, false, false, kCmdEditPorts, true, kMenuServerPorts, true},
+    {kCellHexadecimal, false, false, kCmdEditPorts, true, kMenuServerPorts, true, 0, 65535},
+    // Which numbers of the range are private RPC numbers, RpcNumberRule decides.
+    {kCellPrivateNumber, false, false, kCmdEditPorts, true, kMenuServerPorts, true, 0, 390694},
+    {kCellHexadecimal, false, false, kCmdEditPorts, true, kMenuServerPorts, true, 0, 65535},
 };
 
 struct AccountsMenuEntry {

@@ -3,12 +3,12 @@
 #include <cstdio>
 #include <iterator>
 
-#include "vxutil/listctrl/RangeMessage.h"
 #include "login/accounts/AccountsPrompts.h"
 #include "login/accounts/AccountsSettings.h"
 #include "login/accounts/AccountsText.h"
 #include "login/accounts/AccountsTrace.h"
 #include "vxutil/listctrl/RHexEditLogic.h"
+#include "vxutil/listctrl/RangeMessage.h"
 #include "vxutil/listctrl/RpcNumberRule.h"
 #include "vxutil/login/AccountsPresenter.h"
 #include "vxutil/login/AccountsView.h"
@@ -24,14 +24,6 @@ using accounts::ServerColumnWidths;
 namespace {
 
 constexpr int kServerColumnCount = static_cast<int>(std::size(kServerColumns));
-
-struct NumberRange {
-    int min;
-    int max;
-};
-constexpr NumberRange kTcpPorts{0, 65535};
-// Shown in the number-format message of the RPC column; RpcNumberRule decides which are used.
-constexpr NumberRange kPrivateRpcNumbers{0, 390694};
 
 }  // namespace
 
@@ -77,14 +69,14 @@ bool AccountsPresenter::CheckPortText(int column, const CGNString& typed) const 
     if (text.IsEmpty()) return true;
     const WindowHandle parent = m_view.GetWindowHandle();
     const bool rpc = column == kRpcColumn;
-    const NumberRange range = rpc ? kPrivateRpcNumbers : kTcpPorts;
+    const AccountsColumn& range = kServerColumns[column];
     bool valid = RHexEditLogic::VerifyHexNumber(text);
     if (valid && !rpc) {
         const int value = RHexToInt(text);
-        valid = value >= range.min && value <= range.max;
+        valid = value >= range.minimum && value <= range.maximum;
     }
     if (!valid) {
-        accounts::ShowError(parent, NumberRangeMessage(text, range.min, range.max));
+        accounts::ShowError(parent, NumberRangeMessage(text, range.minimum, range.maximum));
         return false;
     }
     return !rpc || CheckPrivateRpcNumber(text, parent);

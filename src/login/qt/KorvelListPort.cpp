@@ -58,6 +58,8 @@ void KorvelListPort::InsertColumn(int column, const CGNString& header, int width
                               static_cast<unsigned>(settings.toggleCommand));
     m_list.EnableDirectEdit(column, settings.directEdit);
     m_list.EnableContextMenu(column, settings.menuId);
+    if (settings.maximum > settings.minimum)
+        m_list.SetColumnRange(column, settings.minimum, settings.maximum);
 }
 
 void KorvelListPort::DeleteColumn(int column) {
