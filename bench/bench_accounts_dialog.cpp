@@ -5,11 +5,11 @@
 // per user.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
+#include "BenchApplication.h"
 #include "BenchHome.h"
 #include "vxutil/appenv/CAppEnv.h"
 #include "vxutil/login/qt/CLoginPropDlg.h"
@@ -19,15 +19,6 @@ namespace {
 
 constexpr int kUsers = 1000;
 constexpr int kServers = 50;
-
-void EnsureApplication() {
-    static int argc = 1;
-    static char name[] = "vxutil_bench_accounts_dialog";
-    static char* argv[] = {name, nullptr};
-    if (QApplication::instance() != nullptr) return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(argc, argv);
-}
 
 std::string UserName(int i) {
     return "user" + std::to_string(1000 + i);
@@ -47,7 +38,7 @@ void StoreUsers() {
 }
 
 void BM_OpenAccountsDialog(benchmark::State& state) {
-    EnsureApplication();
+    vx::bench::EnsureApplication();
     static RApplication client("Accounts bench", "vxbenchaccounts");
     RApplication::SetCurrent(&client);
     static const bool stored = (StoreUsers(), true);

@@ -3,22 +3,12 @@
 // also keeps its layout up to date, unless the filler holds it in update mode.
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-
+#include "BenchApplication.h"
 #include "vxutil/listctrl/qt/CKorvelListCtrl.h"
 
 namespace {
 
 constexpr int kColumns = 6;
-
-void EnsureApplication() {
-    static int argc = 1;
-    static char name[] = "vxutil_bench_listctrl_fill";
-    static char* argv[] = {name, nullptr};
-    if (QApplication::instance() != nullptr) return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(argc, argv);
-}
 
 void Fill(CKorvelListCtrl& list, int rows) {
     list.DeleteAllItems();
@@ -31,7 +21,7 @@ void Fill(CKorvelListCtrl& list, int rows) {
 
 // range(0): rows; range(1): 0 hidden, 1 shown, 2 shown and filled in update mode.
 void BM_FillKorvelList(benchmark::State& state) {
-    EnsureApplication();
+    vx::bench::EnsureApplication();
     const auto rows = static_cast<int>(state.range(0));
     const auto how = state.range(1);
     CKorvelListCtrl list;
